@@ -1,0 +1,68 @@
+#pragma once
+#include <cstdint>
+#include <string>
+
+// The calls that go up by fixed names. The layers up to `cbet` serve every
+// back-end of the family and know no encoding; what they need of the layers
+// above them is declared here and nowhere else, so that a file below never
+// includes a header from above. Whoever defines a name stands beside it.
+
+struct AsnModule;
+struct AsnType;
+struct BEModMetaRec;
+struct ModRec;
+struct TedRange;
+
+// --- options/: application of options while the store loads a tree.
+
+// Passes 2 and 3 over the options saved in a tree. (options/passes.cc)
+void checkGlobalOptions(ModRec &module, int unused, TedRange range);
+
+// The back-end block, for the lines of kind 2 in the range.
+// (options/passes.cc)
+void checkGlobalBEOptions(ModRec &module, TedRange range);
+
+// Rebuilds the module's group from its COMBINE option. (options/combine.cc)
+void checkCombinedModules(ModRec &module);
+
+// --- driver/: meta records of this back-end. (driver/meta.cc)
+
+// A record with the defaults of the back-end's options; lives until the
+// process ends, unless its module record is dropped.
+BEModMetaRec *newBEModMetaRec();
+void deleteBEModMetaRec(BEModMetaRec *record);
+
+// Called whenever a module object is set up; nothing in this back-end.
+void initBEModMetaRec();
+
+// Applies one option line (with its "-"); false if it is unknown or its
+// value is refused. A line for another tool is good.
+bool globalBEOptionOK(BEModMetaRec &record, const char *option);
+
+// The lines of the back-end's options, read from the module's record.
+int getMetaVerbosity(const AsnModule &module);
+void setMetaVerbosity(const AsnModule &module, int level);
+const char *getMetaLogFile(const AsnModule &module);  // null: no log
+const uint8_t *getMetaGenArr(const AsnModule &module);
+int getMetaBERFuncPref(const AsnModule &module);
+int getMetaEncodingVariant(const AsnModule &module);
+int getMetaVariantFuncPref(const AsnModule &module);
+int getMetaGenerateEmbeddingOptions(const AsnModule &module);
+int getMetaEncodingCheckDefaultValues(const AsnModule &module);
+int getMetaDecodingCatchDefaultErrors(const AsnModule &module);
+int getMetaDecodingFillDefaultValues(const AsnModule &module);
+int getMetaDefaultValuesWarningDisable(const AsnModule &module);
+
+// --- ade/: side files for an IDE. (ade/summary.cc)
+
+// True once ADE-PREFIX is set.
+bool adeIsActive();
+
+// True for the options that begin with "ADE-", in any case; `adeOptionOK`
+// applies one and is false for an unknown name or a refused value.
+bool adeIsADEOption(const char *text);
+bool adeOptionOK(const char *option);
+
+// Adds a fatal error to the summary; a second entry ends the process with
+// status 2 at once.
+void adeSummaryFatalError(const char *text, const char *detail);
