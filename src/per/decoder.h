@@ -1,0 +1,6 @@
+#pragma once
+
+struct AsnModule;
+
+// Writes the decoder and skip functions of a module and their prototypes.
+void generatePERDecodingFunctions(AsnModule &module);
