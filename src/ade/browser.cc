@@ -1,0 +1,215 @@
+// The browser tree: making, inserting, finding, printing and freeing nodes.
+//
+// A module can have thousands of types, each looked for once or more and
+// inserted at its place by name, so a node knows its children by name in two
+// ways:
+//
+// `first` gives the first child of each name.
+//
+// `rising` holds the children whose name is greater than the names of all
+// children ahead of them. Children need not be in order, as some are only
+// appended; but the first child that is greater than a given name always has
+// a greater name than all ahead of it, so it is always in `rising`, and
+// found there by its key. If the children are in order, `rising` has just the
+// first of each name.
+
+#include "ade/browser.h"
+#include "ade/summary.h"
+#include "base/alloc.h"
+#include "base/diag.h"
+#include "base/strings.h"
+#include "cbet/symboltable.h"
+#include "store/module.h"
+#include <map>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+
+constexpr const char *treeEnding = ".apd";
+
+// The keys are the texts of the symbol table. A string view compares as
+// strcmp does: octets are unsigned.
+struct AdeBrowserIndex {
+  std::unordered_map<std::string_view, AdeBrowserNode *> first;
+  std::map<std::string_view, AdeBrowserNode *> rising;
+};
+
+SymbolTable *adeBrowserSymbolTable;
+AdeBrowserNode *g_adeBrowserTree;
+AdeBrowserNode *g_adeModuleNode;
+AdeBrowserNode *g_adeTypeNode;
+
+static CacheBlock *nodeCache;
+static AdeFile treeFile;  // open while a tree is printed
+
+// Here the index is a complete type.
+AdeBrowserNode::AdeBrowserNode() = default;
+AdeBrowserNode::~AdeBrowserNode() = default;
+
+static int32_t symbolOf(const char *text)
+{
+  return text ? putSymbol(*adeBrowserSymbolTable, text) : 0;
+}
+
+static const char *textOf(int32_t symbol)
+{
+  return symbol ? getSymbol(*adeBrowserSymbolTable, symbol) : "";
+}
+
+AdeBrowserNode *adeBrowserNewNode(const char *name, const char *directory,
+                                  const char *file, int32_t line,
+                                  const char *kind, const char *extra1,
+                                  const char *extra2)
+{
+  if (!adeBrowserSymbolTable)
+    adeBrowserSymbolTable = newSymbolTable();
+  AdeBrowserNode *node = cacheNew<AdeBrowserNode>(nodeCache);
+  node->name = symbolOf(name);
+  node->directory = symbolOf(directory);
+  node->file = symbolOf(file);
+  node->line = line;
+  node->kind = symbolOf(kind);
+  node->extra1 = symbolOf(extra1);
+  node->extra2 = symbolOf(extra2);
+  return node;
+}
+
+AdeBrowserNode *adeBrowserNewProjectTree(const char *kind, const char *extra1,
+                                         const char *extra2)
+{
+  if (!adeIsActive())
+    fatalError(FATAL_OPEN_READ, "No ADE-PREFIX");
+  return adeBrowserNewNode(adeRecord.prefix.c_str(), nullptr, nullptr, 0, kind,
+                           extra1, extra2);
+}
+
+// The module's name as the tree shows it.
+static std::string &moduleNodeName(std::string &name, const AsnModule &module)
+{
+  return convertUnderscores(getModuleRef(name, nullptr, module, nullptr));
+}
+
+AdeBrowserNode *adeBrowserNewModuleNode(const AsnModule &module,
+                                        const char *kind, const char *extra1,
+                                        const char *extra2)
+{
+  std::string name, directory, file;
+  moduleNodeName(name, module);
+  getModuleDirectory(directory, nullptr, module, nullptr);
+  getModuleFileName(file, nullptr, module, nullptr);
+  return adeBrowserNewNode(name.c_str(), directory.c_str(), file.c_str(), 1,
+                           kind, extra1, extra2);
+}
+
+AdeBrowserNode *adeBrowserFindOrCreateModuleNode(const AsnModule &module,
+                                                 const char *kind,
+                                                 const char *extra1,
+                                                 const char *extra2)
+{
+  std::string name;
+  moduleNodeName(name, module);
+  AdeBrowserNode *node = nullptr;
+  if (g_adeBrowserTree)
+    node = adeBrowserFindSubNode(*g_adeBrowserTree, name.c_str());
+  if (node)
+    return node;
+  node = adeBrowserNewModuleNode(module, kind, extra1, extra2);
+  if (g_adeBrowserTree)
+    adeBrowserInsertSubNode(*g_adeBrowserTree, node, 1);
+  return node;
+}
+
+// Puts the node between `before` and its predecessor; null: behind the last.
+static void linkChild(AdeBrowserNode &parent, AdeBrowserNode *node,
+                      AdeBrowserNode *before)
+{
+  node->next = before;
+  node->previous = before ? before->previous : parent.lastChild;
+  (node->previous ? node->previous->next : parent.firstChild) = node;
+  (before ? before->previous : parent.lastChild) = node;
+}
+
+// A node can bring children along.
+static void setLevels(AdeBrowserNode &node, uint32_t level)
+{
+  node.level = level;
+  for (AdeBrowserNode *child = node.firstChild; child; child = child->next)
+    setLevels(*child, level + 1);
+}
+
+void adeBrowserInsertSubNode(AdeBrowserNode &parent, AdeBrowserNode *node,
+                             int sorted)
+{
+  if (!parent.index)
+    parent.index = std::make_unique<AdeBrowserIndex>();
+  AdeBrowserIndex &index = *parent.index;
+  std::string_view name = textOf(node->name);
+  auto greater = index.rising.upper_bound(name);
+  bool last = sorted != 1 || greater == index.rising.end();
+  linkChild(parent, node, last ? nullptr : greater->second);
+  // With a greater child ahead of it, it does not rise. Without one it does
+  // unless an equal child is ahead, and then it is the first of its name,
+  // even if a later one was known as that.
+  bool behindGreater = last && greater != index.rising.end();
+  if (!behindGreater && index.rising.try_emplace(name, node).second)
+    index.first.insert_or_assign(name, node);
+  else
+    index.first.try_emplace(name, node);
+  setLevels(*node, parent.level + 1);
+}
+
+AdeBrowserNode *adeBrowserFindSubNode(const AdeBrowserNode &parent,
+                                      const char *name)
+{
+  if (!parent.index)
+    return nullptr;
+  auto place = parent.index->first.find(orEmpty(name));
+  return place == parent.index->first.end() ? nullptr : place->second;
+}
+
+void adeBrowserTraverseTree(AdeBrowserNode *node, AdeBrowserCallBack *f)
+{
+  for (; node; node = node->next) {
+    f(*node);
+    adeBrowserTraverseTree(node->firstChild, f);
+  }
+}
+
+void adeBrowserPrintTree(AdeBrowserNode *root, const char *suffix)
+{
+  adeOpenFile(treeFile, suffix ? suffix : treeEnding, "w");
+  adeBrowserTraverseTree(root, adeBrowserPrintNode);
+  adeCloseFile(treeFile);
+}
+
+void adeBrowserPrintNode(AdeBrowserNode &node)
+{
+  adePutText(treeFile,
+             formatText("%u:%s:'%s%s':%d:%s:%s:%s\n", node.level,
+                        textOf(node.name), textOf(node.directory),
+                        textOf(node.file), node.line < 0 ? 0 : node.line,
+                        textOf(node.kind), textOf(node.extra1),
+                        textOf(node.extra2)));
+}
+
+static void deleteNode(AdeBrowserNode *node)
+{
+  AdeBrowserNode *child = node->firstChild;
+  while (child) {
+    AdeBrowserNode *next = child->next;
+    deleteNode(child);
+    child = next;
+  }
+  cacheDelete(node, nodeCache);
+}
+
+void adeBrowserDeleteTree(AdeBrowserNode *root)
+{
+  if (root == g_adeBrowserTree)
+    g_adeBrowserTree = g_adeModuleNode = g_adeTypeNode = nullptr;
+  if (root)
+    deleteNode(root);
+  // Last: the children's indexes refer to its texts.
+  deleteSymbolTable(adeBrowserSymbolTable);
+  adeBrowserSymbolTable = nullptr;
+}
