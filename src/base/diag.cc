@@ -6,7 +6,6 @@
 #include "base/strings.h"
 #include "base/upcalls.h"
 #include <cstdio>
-#include <cstdlib>
 #include <iterator>
 
 std::string backendName;
@@ -37,12 +36,6 @@ const FatalError allFatalErrors[19] = {
     {FATAL_NO_CALL_BACK, "Call-back function not defined.", 2},
     {FATAL_UNKNOWN, "Unexpected error code", 2},
 };
-
-void endRun(int status)
-{
-  // Through the library's exit, so that what was printed is flushed.
-  exit(status);
-}
 
 void fatalError(int code, const char *detail)
 {

@@ -390,10 +390,11 @@ void printTEDs(int file, ModRec *module, int32_t first, int32_t last,
   char number = place->first == selector ? '1' : '2';
   for (int32_t i = std::max(first, 1); i <= last; ++i) {
     readRec(module, REC_TED, i);
+    if (tedRec.tedKind != TED_EMBEDDING)
+      continue;
     const char *line = getStri(module, tedRec.text);
     // Mark, letter, number, blank, text.
-    if (tedRec.tedKind == TED_EMBEDDING && strlen(line) >= 4 &&
-        line[1] == place->letter && line[2] == number)
+    if (strlen(line) >= 4 && line[1] == place->letter && line[2] == number)
       printEmbedded(*f, file, line + 4);
   }
 }

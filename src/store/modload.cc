@@ -142,13 +142,11 @@ int readSyntaxTree(ModRec &module, std::string &message)
   int32_t entries = mNode.counts[REC_MNODE];
   initModRec(module);
   stampNodes(module);
-  if (++importNesting > maxNesting)
-    treeInconsistent(&module);
+  NestingGuard nesting(importNesting, &module);
   for (int32_t k = 2; k <= entries && status == READ_GOOD; ++k) {
     readRec(&module, REC_MNODE, k);
     status = readImport(module, k, message);
   }
-  --importNesting;
   return status;
 }
 
@@ -218,5 +216,4 @@ void initBackendVars()
 void resetLoading()
 {
   firstPrefixLen = 0;
-  importNesting = 0;
 }

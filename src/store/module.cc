@@ -51,9 +51,18 @@ static const char *internedOrNull(const char *text)
   return text ? internStri(text) : nullptr;
 }
 
+// Takes a module out of the look-up by prefix.
+static void forgetPrefix(const ModRec &module)
+{
+  auto found = byGenerationPrefix.find(module.generationPrefix);
+  if (found != byGenerationPrefix.end() && found->second == &module)
+    byGenerationPrefix.erase(found);
+}
+
 void setModulePrefixes(ModRec &module, const char *filePrefix,
                        const char *generationPrefix)
 {
+  forgetPrefix(module);
   module.filePrefix = internedOrNull(filePrefix);
   module.generationPrefix = internedOrNull(generationPrefix);
   if (module.generationPrefix)
@@ -148,9 +157,7 @@ static void deleteFixRecs(GlobalOptions &options)
 
 static void deleteModRec(ModRec *module)
 {
-  auto found = byGenerationPrefix.find(module->generationPrefix);
-  if (found != byGenerationPrefix.end() && found->second == module)
-    byGenerationPrefix.erase(found);
+  forgetPrefix(*module);
   forgetRecords(*module);
   deleteImports(*module);
   if (module->options.prefixes) {

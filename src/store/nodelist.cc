@@ -105,7 +105,8 @@ void deleteNodes(NodeList &list)
 
 static bool readElement(const NodeList &list, const NodeElemRec *element)
 {
-  if (!element || list.kind == NODES_CONSTRAINTS)
+  bool readable = list.kind == NODES_TYPES || list.kind == NODES_VALUES;
+  if (!element || !readable)
     return false;
   readRec(element->module, recordKind(list), element->index);
   return true;

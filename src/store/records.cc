@@ -236,18 +236,22 @@ static inline void encodeElement(int width, const uint8_t *from, uint8_t *to)
   }
 }
 
-// One record, its table known at compile time: the loops unroll into plain
-// moves, which is what a large tree's loading time is made of.
+// One field of a record, its table known at compile time: a plain move, which
+// is what a large tree's loading time is made of.
+template <const auto &layout, size_t i>
+static inline void decodeField(const uint8_t *octets, uint8_t *record)
+{
+  constexpr FieldLayout field = layout[i];
+  for (int k = 0; k < field.count; ++k)
+    decodeElement(field.width, octets + field.offset + k * field.width,
+                  record + field.hostOffset + k * field.width);
+}
+
 template <const auto &layout, size_t... i>
 static inline void decodeFields(const uint8_t *octets, uint8_t *record,
                                 std::index_sequence<i...>)
 {
-  auto decodeField = [&](const FieldLayout &field) {
-    for (int k = 0; k < field.count; ++k)
-      decodeElement(field.width, octets + field.offset + k * field.width,
-                    record + field.hostOffset + k * field.width);
-  };
-  (decodeField(layout[i]), ...);
+  (decodeField<layout, i>(octets, record), ...);
 }
 
 template <const auto &layout>

@@ -61,8 +61,11 @@ static uint32_t contentHash(const void *block, size_t size)
 
 size_t addressHash(const void *address)
 {
-  uint64_t value = reinterpret_cast<uintptr_t>(address) * 0x9e3779b97f4a7c15u;
-  return static_cast<size_t>(value >> 32);
+  // Runs of 1 KB keep together; the runs are strewn over the table, or equal
+  // spacing in memory could pile them up.
+  uint64_t place = reinterpret_cast<uintptr_t>(address);
+  uint64_t run = (place >> 10) * 0x9e3779b97f4a7c15u >> 32;
+  return static_cast<size_t>(run << 8 | (place >> 2 & 255));
 }
 
 // The slot of a string, or the free one where it belongs.
@@ -83,12 +86,11 @@ uniqSlot(UniqTable<C> &table, std::basic_string_view<C> text, uint32_t hash)
 }
 
 template <class C>
-static void growUniq(UniqTable<C> &table)
+static void resizeUniq(UniqTable<C> &table, size_t size)
 {
-  std::vector<typename UniqTable<C>::Slot> old(
-      table.slots.empty() ? 1024 : 2 * table.slots.size());
+  std::vector<typename UniqTable<C>::Slot> old(size);
   old.swap(table.slots);
-  size_t mask = table.slots.size() - 1;
+  size_t mask = size - 1;
   for (const auto &slot : old) {
     if (!slot.text)
       continue;
@@ -101,10 +103,33 @@ static void growUniq(UniqTable<C> &table)
 }
 
 template <class C>
+static void reserveIn(UniqTable<C> &table, size_t more)
+{
+  size_t size = table.slots.empty() ? 1024 : table.slots.size();
+  while (2 * size < 3 * (table.used + more))
+    size *= 2;
+  if (size != table.slots.size())
+    resizeUniq(table, size);
+}
+
+void reserveUniqStris(int kind, size_t more)
+{
+  switch (kind) {
+  case REC_STRI:
+    return reserveIn(hashtable, more);
+  case REC_STRI16:
+    return reserveIn(hashtable16, more);
+  case REC_STRI32:
+    return reserveIn(hashtable32, more);
+  default:
+    break;
+  }
+}
+
+template <class C>
 static const C *internIn(UniqTable<C> &table, std::basic_string_view<C> text)
 {
-  if (3 * (table.used + 1) > 2 * table.slots.size())
-    growUniq(table);
+  reserveIn(table, 1);
   uint32_t hash = contentHash(text.data(), text.size() * sizeof(C));
   auto &slot = uniqSlot(table, text, hash);
   if (!slot.text) {

@@ -15,6 +15,9 @@ const char *internStri(std::string_view text);
 const char16_t *internStri16(std::u16string_view text);
 const char32_t *internStri32(std::u32string_view text);
 
+// Makes room for so many more strings of a kind.
+void reserveUniqStris(int kind, size_t more);
+
 // From an interned string back to its place among others: open addressing
 // by the string's address, at most two thirds full. A slot holds an index,
 // 0 being free.
@@ -23,7 +26,8 @@ struct StriIndex {
   size_t used = 0;
 };
 
-// Where the search for an address begins.
+// Where the search for an address begins. Neighbours in memory are neighbours
+// in the table as well: strings are mostly looked up in the order of a file.
 size_t addressHash(const void *address);
 
 // The strings of one width of one module: by index, and back. The way back
@@ -37,6 +41,14 @@ struct StriSection {
   int32_t find(const C *interned) const
   {
     return cache.slots.empty() ? 0 : cache.slots[slotOf(interned)];
+  }
+
+  // Makes room for so many strings in all.
+  void reserve(size_t count)
+  {
+    strings.reserve(count);
+    while (2 * cache.slots.size() < 3 * count)
+      grow();
   }
 
   // Appends an interned string; its index is the count afterwards.

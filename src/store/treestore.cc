@@ -288,11 +288,12 @@ static const char32_t *internUnits(std::u32string_view units)
 }
 
 template <class C>
-static bool readStris(StriSection<C> &section, int32_t count)
+static bool readStris(StriSection<C> &section, int kind, int32_t count)
 {
   if (!fitsFile(count, 2 + sizeof(C)))
     return false;
-  section.strings.reserve(reserveFor(count));
+  section.reserve(reserveFor(count));
+  reserveUniqStris(kind, reserveFor(count));
   std::basic_string<C> units;
   for (int32_t i = 0; i < count; ++i) {
     const uint8_t *octets = treeFile.take(2);
@@ -323,7 +324,7 @@ static int readSubTree(ModRec &module, int kind)
   });
   withStris(module, kind, [&](auto &section) {
     setupStriCaches(module, kind);
-    good = readStris(section, count);
+    good = readStris(section, kind, count);
   });
   if (good)
     recordTotals[kind] += count;
@@ -383,10 +384,11 @@ static T *recordMadeAt(RecSection<T> &section, int32_t index, int kind)
   size_t size = section.records.size();
   if (i > size && section.holes.empty())
     section.holes.resize(size, false);
-  if (!section.holes.empty() && i >= section.holes.size())
-    section.holes.resize(i + 1, true);
-  if (!section.holes.empty())
+  if (i > size || !section.holes.empty()) {
+    if (i >= section.holes.size())
+      section.holes.resize(i + 1, true);
     section.holes[i] = false;
+  }
   if (i >= size)
     section.records.resize(i + 1);
   ++recordTotals[kind];

@@ -107,6 +107,20 @@ constexpr int maxNesting = 10000;
 
 [[noreturn]] void treeInconsistent(const ModRec *module);
 
+// Counts a level of a recursion while its scope lasts, up to `maxNesting`.
+struct NestingGuard {
+  int &depth;
+  NestingGuard(int &counter, const ModRec *module) : depth(counter)
+  {
+    if (depth >= maxNesting)
+      treeInconsistent(module);
+    ++depth;
+  }
+  ~NestingGuard() { --depth; }
+  NestingGuard(const NestingGuard &) = delete;
+  NestingGuard &operator=(const NestingGuard &) = delete;
+};
+
 // Records of a kind in all modules of the run.
 int64_t recordsOfRun(int kind);
 

@@ -82,19 +82,16 @@ static bool skipOneType(bool all)
   }
 }
 
-// Built-in classes lead from `skipFieldList` back here: the depth is bounded
-// by the nodes of the run as the steps are.
+// Built-in classes lead from `skipFieldList` back to `skipTypes`.
 static int skipNesting;
 
 void skipTypes(bool all)
 {
   ModRec *module = currTPtr[REC_TNODE];
-  if (++skipNesting > maxNesting)
-    treeInconsistent(module);
+  NestingGuard nesting(skipNesting, module);
   ChainGuard guard(module, REC_TNODE);
   while (skipOneType(all))
     guard.step();
-  --skipNesting;
 }
 
 bool isInstantiatedTNode()
@@ -188,8 +185,7 @@ static int compOfNesting;
 template <class F>
 static bool findTypeComp(ModRec *module, int32_t first, F &fits)
 {
-  if (compOfNesting > maxNesting)
-    treeInconsistent(module);
+  NestingGuard nesting(compOfNesting, module);
   ChainGuard guard(module, REC_TNODE);
   for (int32_t index = first; index != 0;) {
     guard.step();
@@ -201,10 +197,7 @@ static bool findTypeComp(ModRec *module, int32_t first, F &fits)
       continue;
     }
     skipTypes(true);
-    ++compOfNesting;
-    bool found = findTypeComp(currTPtr[REC_TNODE], tNode.ref, fits);
-    --compOfNesting;
-    if (found)
+    if (findTypeComp(currTPtr[REC_TNODE], tNode.ref, fits))
       return true;
   }
   return false;

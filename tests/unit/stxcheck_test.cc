@@ -429,6 +429,15 @@ TEST(StxCheck, LongChain)
 }
 
 // Indexes of records that are declared but cut off are no second fault.
+TEST(StxCheck, NoHeaderRecord)
+{
+  // Without a record of kind 0 no module number is good, and most fields have
+  // none beside them.
+  std::string octets = stxEncode(pairTree());
+  octets.replace(36, 4, std::string(4, 0));
+  EXPECT_NE(faultsOf(octets, true), "");
+}
+
 TEST(StxCheck, CutFileIsOneFault)
 {
   std::string octets = stxEncode(pairTree());

@@ -120,7 +120,8 @@ static void checkRows(const StxFile &file, int kind,
         badIndex(faults, kind, index, field.name, value);
       // -2 is no module but a mark of class fields.
       bool marked = kind == REC_TNODE && number == -2;
-      if (!marked && (number < 0 || number > stxDeclared(file, REC_MNODE)))
+      if (module && !marked &&
+          (number < 0 || number > stxDeclared(file, REC_MNODE)))
         badIndex(faults, kind, index, module->name, number);
     }
   }
