@@ -354,7 +354,7 @@ void initFixRec(FixRec &destination, const char *id, const char *pref,
                 const char *name, const char *suff, const char *conv,
                 int32_t maximum)
 {
-  bool replaced = *orEmpty(name);
+  bool replaced = name;
   size_t length = std::min(strlen(orEmpty(id)), static_cast<size_t>(maximum));
   destination = FixRec{};
   destination.pref = pref;

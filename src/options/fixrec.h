@@ -64,8 +64,8 @@ size_t compareNames(const char *a, const char *b);
 // The record behind the head whose name is all of `name`; null if none.
 FixRec *findGlbFixRecByName(const FixRec &head, const char *name);
 
-// Makes a record from its parts; a null or empty name takes the id, of which
-// at most `maximum` characters count.
+// Makes a record from its parts; a null name takes the id, of which at most
+// `maximum` characters count.
 void initFixRec(FixRec &destination, const char *id, const char *pref,
                 const char *name, const char *suff, const char *conv,
                 int32_t maximum);
