@@ -1,0 +1,19 @@
+// The encoding variant of the module being generated.
+
+#include "per/variant.h"
+#include <gtest/gtest.h>
+
+struct EncodingVariant : testing::Test {
+  int saved = perGetEncodingVariant();
+  ~EncodingVariant() override { perSetEncodingVariant(saved); }
+};
+
+TEST_F(EncodingVariant, SetAndGet)
+{
+  // 2 is what a module with an unknown variant asks for.
+  for (int variant : {1, 0, 2}) {
+    perSetEncodingVariant(variant);
+    EXPECT_EQ(perGetEncodingVariant(), variant);
+    EXPECT_EQ(glbEncodingVariant, variant);
+  }
+}
