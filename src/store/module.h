@@ -103,7 +103,8 @@ AsnModule *firstModule(ModRec *record);
 // the generation list; deletes it and gives null at the end.
 AsnModule *nextModule(AsnModule *module, ModRec *record);
 
-// Each module of the generation list; only its first one. `cMP` is restored.
+// Each module of the generation list, with none current at the end; only its
+// first one, with `cMP` restored.
 void forEachModule(ModuleCallBack *f);
 void forFirstModule(ModuleCallBack *f);
 

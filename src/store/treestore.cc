@@ -171,6 +171,20 @@ static T *recordAt(RecSection<T> &section, int32_t index)
   return &section.records[i];
 }
 
+// Records of a kind that the module has, gaps not counted.
+static int64_t recordsOfModule(ModRec &module, int kind)
+{
+  int64_t number = 0;
+  withRecords(module, kind, [&](auto &section, auto &) {
+    number = static_cast<int64_t>(section.records.size()) -
+             std::count(section.holes.begin(), section.holes.end(), true);
+  });
+  withStris(module, kind, [&](auto &section) {
+    number = static_cast<int64_t>(section.strings.size());
+  });
+  return number;
+}
+
 // --- loading ----------------------------------------------------------------
 
 static bool outside(int32_t index, int32_t count)
@@ -319,6 +333,7 @@ static int readSubTree(ModRec &module, int kind)
 {
   int32_t count = mNode.counts[kind];
   bool good = false;
+  int64_t before = recordsOfModule(module, kind);
   withRecords(module, kind, [&](auto &section, auto &) {
     good = readRecords(section, kind, count);
   });
@@ -326,8 +341,8 @@ static int readSubTree(ModRec &module, int kind)
     setupStriCaches(module, kind);
     good = readStris(section, kind, count);
   });
-  if (good)
-    recordTotals[kind] += count;
+  // What a bad section gave is in the store, too.
+  recordTotals[kind] += recordsOfModule(module, kind) - before;
   return good;
 }
 
@@ -501,17 +516,8 @@ int64_t recordsOfRun(int kind)
 
 void forgetRecords(const ModRec &module)
 {
-  ModRec &counted = const_cast<ModRec &>(module);
-  for (int kind = 0; kind < REC_COUNT; ++kind) {
-    withRecords(counted, kind, [&](auto &section, auto &) {
-      auto holes = std::count(section.holes.begin(), section.holes.end(), true);
-      recordTotals[kind] -=
-          static_cast<int64_t>(section.records.size()) - holes;
-    });
-    withStris(counted, kind, [&](auto &section) {
-      recordTotals[kind] -= static_cast<int64_t>(section.strings.size());
-    });
-  }
+  for (int kind = 0; kind < REC_COUNT; ++kind)
+    recordTotals[kind] -= recordsOfModule(const_cast<ModRec &>(module), kind);
 }
 
 void treeInconsistent(const ModRec *module)

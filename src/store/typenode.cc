@@ -58,8 +58,12 @@ bool skipFieldList()
   return true;
 }
 
-// One step of `skipTypes`; false at the end of the chain.
-static bool skipOneType(bool all)
+void readTNodeOfLink()
+{
+  readLinkTarget(getModPtr(currTPtr[REC_SNODE], sNode.linkModule));
+}
+
+bool skipOneType(bool all)
 {
   switch (tNode.mainType) {
   case TYP_SYNONYM:
@@ -71,7 +75,7 @@ static bool skipOneType(bool all)
     if (tNode.fieldRef == 0)
       return false;
     readRec(currTPtr[REC_TNODE], REC_SNODE, tNode.fieldRef);
-    readLinkTarget(getModPtr(currTPtr[REC_SNODE], sNode.linkModule));
+    readTNodeOfLink();
     return true;
   case TYP_FIELDLIST:
     if (tNode.fieldRef == 0 || (!all && tNode.refModule != fieldReferenceMark))

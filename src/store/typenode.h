@@ -10,6 +10,14 @@
 // node bears the mark for it.
 void skipTypes(bool all);
 
+// One step of `skipTypes`; false, with the buffer where it was, at the end of
+// the chain (or if a field list led into the predefined module).
+bool skipOneType(bool all);
+
+// Moves the type buffer to what the link in `sNode`, read in its module,
+// names: a type, or the first child of a value.
+void readTNodeOfLink();
+
 // Moves the buffer from a field list node to what its path leads to; false
 // if that lies in the predefined module, where the walk ends.
 bool skipFieldList();

@@ -24,18 +24,24 @@ static void skipFieldPath()
   readRec(getModPtr(module, sNode.linkModule), REC_VNODE, -sNode.target);
 }
 
+bool skipOneValue(bool all)
+{
+  if (vNode.mainType == valueReference && vNode.firstChild != 0) {
+    readRec(getModPtr(currTPtr[REC_VNODE], vNode.refModule), REC_VNODE,
+            vNode.firstChild);
+    return true;
+  }
+  if (!all || vNode.mainType != fieldListValue || vNode.fieldPath == 0)
+    return false;
+  skipFieldPath();
+  return true;
+}
+
 void skipValues(bool all)
 {
   ChainGuard guard(currTPtr[REC_VNODE], REC_VNODE);
-  for (;; guard.step()) {
-    if (vNode.mainType == valueReference && vNode.firstChild != 0)
-      readRec(getModPtr(currTPtr[REC_VNODE], vNode.refModule), REC_VNODE,
-              vNode.firstChild);
-    else if (all && vNode.mainType == fieldListValue && vNode.fieldPath != 0)
-      skipFieldPath();
-    else
-      return;
-  }
+  while (skipOneValue(all))
+    guard.step();
 }
 
 // True if the chain of the current value ends in an object.

@@ -9,6 +9,10 @@
 // and of field paths if `all` is set.
 void skipValues(bool all);
 
+// One step of `skipValues`; false, with the buffer where it was, at the end
+// of the chain.
+bool skipOneValue(bool all);
+
 // Is the current value ... ? The buffer is the same afterwards.
 bool isObjVNode();
 bool isObjSetVNode();
