@@ -357,6 +357,9 @@ static const CatalogueRow *findRow(const CatalogueRow (&rows)[n],
 static bool catalogueOptionOK(OptionTarget &target, int tedKind,
                               const char *text)
 {
+  // Neither group is for a kind that there isn't.
+  if (tedKind != TED_BACK_END && tedKind != TED_FRONT_END)
+    return false;
   const NameOption *naming = nullptr;
   if (isNamingOption(text, &naming))
     return getFixOpt(&fixRecForKind(target.options, naming->kind), text,

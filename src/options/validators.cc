@@ -32,7 +32,7 @@ const NamedByte setnVal[] = {{"none", 0},
                              {"named-numbers-and-bits", 2},
                              {nullptr, 0}};
 
-// REAL stands twice: tools that list the table by position count on it.
+// REAL stands twice; its second row is never reached.
 const NamedByte optVals[] = {{"OLD", 0},
                              {"REAL", 1},
                              {"REAL-N", -1},
@@ -262,13 +262,12 @@ bool directoryOptionOK(std::string &destination, const char *text)
   return copyDirOption(destination, text);
 }
 
-bool directorySearchPathOptionOK(std::vector<std::string> &destination,
-                                 const char *text)
+bool directorySearchPathOptionOK(SearchPath &destination, const char *text)
 {
   std::string directory;
   if (!directoryOptionOK(directory, text))
     return false;
-  destination.push_back(directory);
+  addDirToSearchPath(destination, directory.c_str());
   return true;
 }
 

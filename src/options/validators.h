@@ -1,4 +1,5 @@
 #pragma once
+#include "base/textfile.h"
 #include "store/modrec.h"
 #include <cstddef>
 #include <cstdint>
@@ -64,8 +65,7 @@ bool altCodOption(uint8_t *array, const char *text, int limit);
 
 // A printable text, blanks included, with "/" added unless it ends in one.
 bool directoryOptionOK(std::string &destination, const char *text);
-bool directorySearchPathOptionOK(std::vector<std::string> &destination,
-                                 const char *text);
+bool directorySearchPathOptionOK(SearchPath &destination, const char *text);
 
 // The text with "/" added unless it ends in one.
 bool copyDirOption(std::string &destination, const char *text);

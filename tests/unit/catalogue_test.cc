@@ -550,6 +550,20 @@ TEST_F(Catalogue, DroppedAndEmbeddingLinesRefused)
   EXPECT_EQ(pass3Scope, 1);
 }
 
+TEST_F(Catalogue, KindsThatThereAreNot)
+{
+  for (int kind : {4, 255})
+    for (const char *text :
+         {"ALLOW", "ENCF=0", "TPREF=x_", "ENTRY=SDU", "//", "NAMELEN=40"})
+      EXPECT_FALSE(pass3(kind, text)) << text;
+  EXPECT_EQ(options->allow, 0);
+  EXPECT_EQ(options->encF, 255);
+  EXPECT_EQ(options->fixRecs[0].pref, nullptr);
+  EXPECT_EQ(options->entryFixRec.conv, nullptr);
+  EXPECT_EQ(options->commentTed.last, 0);
+  EXPECT_EQ(options->nameLen, 32);
+}
+
 TEST_F(Catalogue, OptionsOfOthersAreGood)
 {
   int level = verboseEx;

@@ -147,6 +147,8 @@ TEST_F(PrefixOption, LongPrefixesQuietly)
   verboseEx = 1;
   EXPECT_TRUE(apply("Mod:ffffff:gggggg"));
   EXPECT_EQ(errors, "");
+  // They count all the same.
+  EXPECT_EQ(abc->nrWarnings, 2);
   expectModule("Mod", "fffff", "ggggg");
 }
 
