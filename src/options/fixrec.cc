@@ -156,12 +156,12 @@ FixRec *findFixRecByEntryTypeName(FixRec &head, const char *typeName,
     head.index = new FixIndex;
   // Names in options have no "_", so that the key is the name.
   std::string key = indexKey(typeName, static_cast<size_t>(length));
-  FixRec *&record = (*head.index)[key];
+  FixRec *&record = head.index->byName[key];
   if (!record) {
     record = new FixRec;
-    // The order behind the head shows nowhere: names are different.
-    record->next = head.next;
-    head.next = record;
+    FixRec *last = head.index->last;
+    (last ? last : &head)->next = record;
+    head.index->last = record;
   }
   return record;
 }
@@ -346,8 +346,9 @@ FixRec *findGlbFixRecByName(const FixRec &head, const char *name)
 {
   if (!head.index)
     return nullptr;
-  auto found = head.index->find(indexKey(name, strlen(name)));
-  return found == head.index->end() ? nullptr : found->second;
+  const auto &byName = head.index->byName;
+  auto found = byName.find(indexKey(name, strlen(name)));
+  return found == byName.end() ? nullptr : found->second;
 }
 
 void initFixRec(FixRec &destination, const char *id, const char *pref,

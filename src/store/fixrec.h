@@ -6,8 +6,12 @@
 
 struct FixRec;
 
-// The records behind a head by ASN.1 name, "-" turned to "_".
-typedef std::unordered_map<std::string, FixRec *> FixIndex;
+// The records behind a head by ASN.1 name, "-" turned to "_", and the last of
+// their chain.
+struct FixIndex {
+  std::unordered_map<std::string, FixRec *> byName;
+  FixRec *last = nullptr;
+};
 
 // How one ASN.1 name becomes an identifier of generated C. The texts are not
 // owned: they point into option lines, which live until the process ends. A

@@ -1,37 +1,7 @@
-#include "base/assocarray.h"
+#include "support/assoctable.h"
 #include <algorithm>
-#include <cstring>
-#include <gtest/gtest.h>
 #include <map>
-#include <memory>
-#include <set>
-#include <string>
 #include <vector>
-
-struct DestroyContext {
-  void operator()(AaContext *context) const { aaDestroyContext(context); }
-};
-typedef std::unique_ptr<AaContext, DestroyContext> Table;
-
-constexpr unsigned copied = AA_KEYCOPY | AA_VALREF;
-constexpr unsigned referred = AA_KEYREF | AA_VALREF;
-
-static Table makeTable(unsigned flags, size_t keyLength = 0)
-{
-  return Table(aaCreateContext(flags, keyLength));
-}
-
-static std::string keyOf(int number)
-{
-  return "key" + std::to_string(number);
-}
-
-// Puts the keys first .. last - 1, each with its number + 1.
-static void putKeys(AaContext &context, int first, int last)
-{
-  for (int i = first; i < last; ++i)
-    ASSERT_EQ(0, aaPut(context, keyOf(i).c_str(), AaValue(i) + 1));
-}
 
 static void deleteKeys(AaContext &context, int first, int last)
 {
@@ -43,16 +13,6 @@ static void expectKeys(const AaContext &context, int first, int last)
 {
   for (int i = first; i < last; ++i)
     ASSERT_EQ(AaValue(i) + 1, aaGet(context, keyOf(i).c_str())) << i;
-}
-
-static AaValue asValue(const char *text)
-{
-  return reinterpret_cast<AaValue>(text);
-}
-
-static const char *asText(AaValue value)
-{
-  return reinterpret_cast<const char *>(value);
 }
 
 // The hash of the only entry.
@@ -84,114 +44,6 @@ static int naiveCrc(const std::string &octets)
       crc = crc % 2 ? (crc / 2) ^ 0xA001 : crc / 2;
   }
   return static_cast<int>(crc);
-}
-
-// --- creation
-
-static std::string refusal(unsigned flags, size_t keyLength)
-{
-  testing::internal::CaptureStderr();
-  Table table = makeTable(flags, keyLength);
-  EXPECT_EQ(nullptr, table) << flags;
-  return testing::internal::GetCapturedStderr();
-}
-
-static std::string acceptance(unsigned flags, size_t keyLength)
-{
-  testing::internal::CaptureStderr();
-  Table table = makeTable(flags, keyLength);
-  EXPECT_NE(nullptr, table) << flags;
-  return testing::internal::GetCapturedStderr();
-}
-
-TEST(AaCreate, FlagsByValue)
-{
-  EXPECT_EQ(1, AA_KEYCOPY);
-  EXPECT_EQ(2, AA_VALCOPY);
-  EXPECT_EQ(4, AA_KEYREF);
-  EXPECT_EQ(8, AA_VALREF);
-  EXPECT_EQ(16, AA_NODUP);
-  EXPECT_EQ(32, AA_CASEINSIG);
-  EXPECT_EQ(64, AA_CHARWIDTH16);
-  EXPECT_EQ(128, AA_CHARWIDTH32);
-}
-
-TEST(AaCreate, Accepted)
-{
-  for (unsigned flags : {1u | 2u, 1u | 8u, 4u | 2u, 4u | 8u}) {
-    EXPECT_EQ("", acceptance(flags, 0));
-    EXPECT_EQ("", acceptance(flags, 4));
-    EXPECT_EQ("", acceptance(flags | AA_NODUP, 0));
-    EXPECT_EQ("", acceptance(flags | AA_CASEINSIG, 0));
-    EXPECT_EQ("", acceptance(flags | AA_CHARWIDTH16, 0));
-    EXPECT_EQ("", acceptance(flags | AA_CHARWIDTH32, 0));
-  }
-}
-
-TEST(AaCreate, Empty)
-{
-  Table table = makeTable(copied);
-  EXPECT_EQ(64u, table->size);
-  EXPECT_EQ(0, table->entries);
-  EXPECT_EQ(0, table->shrinkThreshold);
-  EXPECT_EQ(57, table->growThreshold);
-  EXPECT_EQ(0u, aaGet(*table, "any"));
-  EXPECT_EQ(-1, aaDelete(*table, "any"));
-}
-
-TEST(AaCreate, DestroyNull)
-{
-  aaDestroyContext(nullptr);
-}
-
-TEST(AaCreate, FixedLengthIgnoresCaseFlag)
-{
-  EXPECT_EQ("aaCreateContext: fixed length of keys used, flag AA_CASEINSIG "
-            "ignored\n",
-            acceptance(copied | AA_CASEINSIG, 3));
-  testing::internal::CaptureStderr();
-  Table table = makeTable(copied | AA_CASEINSIG, 3);
-  testing::internal::GetCapturedStderr();
-  EXPECT_EQ(0, aaPut(*table, "abc", 1));
-  EXPECT_EQ(0, aaPut(*table, "ABC", 2));
-  EXPECT_EQ(1u, aaGet(*table, "abc"));
-  EXPECT_EQ(2u, aaGet(*table, "ABC"));
-}
-
-TEST(AaCreate, FixedLengthRefusesWideCharacters)
-{
-  const char *line = "aaCreateContext: 16 or 32 bit characters may only be "
-                     "used with arbitrary length keys\n";
-  EXPECT_EQ(line, refusal(copied | AA_CHARWIDTH16, 4));
-  EXPECT_EQ(line, refusal(copied | AA_CHARWIDTH32, 4));
-}
-
-TEST(AaCreate, CaseRefusesWideCharacters)
-{
-  const char *line =
-      "aaCreateContext: case-insignificant comparison for 16 or 32 bit char "
-      "strings not implemented\n";
-  EXPECT_EQ(line, refusal(copied | AA_CASEINSIG | AA_CHARWIDTH16, 0));
-  EXPECT_EQ(line, refusal(copied | AA_CASEINSIG | AA_CHARWIDTH32, 0));
-}
-
-TEST(AaCreate, TwoWidths)
-{
-  EXPECT_EQ("aaCreateContext: cannot specify both AA_CHARWIDTH16 and "
-            "AA_CHARWIDTH32\n",
-            refusal(copied | AA_CHARWIDTH16 | AA_CHARWIDTH32, 0));
-}
-
-TEST(AaCreate, NoKeySpecifier)
-{
-  EXPECT_EQ("aaCreateContext: No AA_KEY specifier\n", refusal(AA_VALREF, 0));
-  EXPECT_EQ("aaCreateContext: No AA_KEY specifier\n", refusal(AA_VALCOPY, 4));
-}
-
-TEST(AaCreate, NoValueSpecifier)
-{
-  EXPECT_EQ("aaCreateContext: No AA_VAL specifier\n", refusal(AA_KEYREF, 0));
-  EXPECT_EQ("aaCreateContext: No AA_VAL specifier\n", refusal(AA_KEYCOPY, 4));
 }
 
 // --- hash
@@ -253,6 +105,14 @@ TEST(AaPut, NoDuplicates)
   EXPECT_EQ(1, table->entries);
 }
 
+TEST(AaPut, NoDuplicatesOfCopiedValues)
+{
+  Table table = makeTable(AA_KEYCOPY | AA_VALCOPY | AA_NODUP);
+  EXPECT_EQ(0, aaPut(*table, "a", asValue("one")));
+  EXPECT_EQ(1, aaPut(*table, "a", asValue("two")));
+  EXPECT_STREQ("one", asText(aaGet(*table, "a")));
+}
+
 TEST(AaPut, ZeroLooksAbsent)
 {
   Table table = makeTable(copied);
@@ -281,6 +141,23 @@ TEST(AaPut, CaseIgnored)
   EXPECT_STREQ("Name-x",
                static_cast<const char *>(aaScanNext(*table, nullptr)));
   aaScanEnd(*table);
+}
+
+TEST(AaPut, WideKeysCopied)
+{
+  Table table16 = makeTable(copied | AA_CHARWIDTH16);
+  char16_t key16[] = u"ab";
+  aaPut(*table16, key16, 1);
+  key16[1] = u'x';
+  EXPECT_EQ(1u, aaGet(*table16, u"ab"));
+  EXPECT_EQ(0u, aaGet(*table16, key16));
+
+  Table table32 = makeTable(copied | AA_CHARWIDTH32);
+  char32_t key32[] = U"ab";
+  aaPut(*table32, key32, 1);
+  key32[1] = U'x';
+  EXPECT_EQ(1u, aaGet(*table32, U"ab"));
+  EXPECT_EQ(0u, aaGet(*table32, key32));
 }
 
 TEST(AaPut, KeyCopied)
@@ -414,7 +291,7 @@ TEST(AaResize, GrowsOn57thKey)
   Table table = makeTable(copied);
   putKeys(*table, 0, 56);
   EXPECT_EQ(64u, table->size);
-  aaPut(*table, keyOf(0).c_str(), 1); // no new key
+  aaPut(*table, keyOf(0).c_str(), 1);  // no new key
   EXPECT_EQ(64u, table->size);
   putKeys(*table, 56, 57);
   EXPECT_EQ(128u, table->size);
@@ -586,7 +463,7 @@ TEST(AaResize, LargestCountsNoPuts)
   expectKeys(*table, 0, 29491);
   deleteKeys(*table, 0, 16283);
   EXPECT_EQ(65536u, table->size);
-  deleteKeys(*table, 16283, 16284); // 29391 - 16284 = 13107
+  deleteKeys(*table, 16283, 16284);  // 29391 - 16284 = 13107
   EXPECT_EQ(32768u, table->size);
   expectKeys(*table, 16284, 29491);
 }
@@ -679,7 +556,7 @@ TEST(AaScan, GrowsAtEnd)
   EXPECT_EQ(64u, table->size);
   EXPECT_EQ(300, table->entries);
   aaScanEnd(*table);
-  EXPECT_EQ(512u, table->size); // 256 grow at 230, 512 at 460
+  EXPECT_EQ(512u, table->size);  // 256 grow at 230, 512 at 460
   expectKeys(*table, 0, 300);
 }
 
@@ -692,7 +569,7 @@ TEST(AaScan, ShrinksAtEnd)
   deleteKeys(*table, 0, 260);
   EXPECT_EQ(512u, table->size);
   aaScanEnd(*table);
-  EXPECT_EQ(128u, table->size); // 40: 256 shrink at 51, 128 at 25
+  EXPECT_EQ(128u, table->size);  // 40: 256 shrink at 51, 128 at 25
   expectKeys(*table, 260, 300);
 }
 
@@ -726,74 +603,4 @@ TEST(AaScan, DeleteMeanwhile)
     EXPECT_EQ(all[2 * i], seen[i]);
   EXPECT_EQ(0, table->entries);
   EXPECT_EQ(64u, table->size);
-}
-
-// --- dump
-
-static std::string dumped(const AaContext &context)
-{
-  testing::internal::CaptureStdout();
-  aaDumpTable(context);
-  return testing::internal::GetCapturedStdout();
-}
-
-TEST(AaDump, Empty)
-{
-  Table table = makeTable(copied);
-  EXPECT_EQ("Dumping table, ListSize = 64\n0 objects\n", dumped(*table));
-}
-
-TEST(AaDump, Entry)
-{
-  Table table = makeTable(copied);
-  aaPut(*table, "one", 1);
-  EXPECT_EQ("Dumping table, ListSize = 64\none -> 1\n1 objects\n",
-            dumped(*table));
-}
-
-TEST(AaDump, CopiedValueIsText)
-{
-  Table table = makeTable(AA_KEYCOPY | AA_VALCOPY);
-  aaPut(*table, "one", asValue("uno"));
-  EXPECT_EQ("Dumping table, ListSize = 64\none -> uno\n1 objects\n",
-            dumped(*table));
-}
-
-TEST(AaDump, BlockInHexadecimal)
-{
-  Table table = makeTable(copied, 3);
-  aaPut(*table, "\x01\xAB", 7);
-  EXPECT_EQ("Dumping table, ListSize = 64\n01AB00 -> 7\n1 objects\n",
-            dumped(*table));
-}
-
-TEST(AaDump, OneLineAnEntry)
-{
-  Table table = makeTable(copied);
-  putKeys(*table, 0, 60);
-  std::string text = dumped(*table);
-  EXPECT_EQ(62, std::ranges::count(text, '\n'));
-  EXPECT_EQ(0u, text.find("Dumping table, ListSize = 128\n"));
-  EXPECT_NE(std::string::npos, text.find("\nkey59 -> 60\n"));
-  EXPECT_NE(std::string::npos, text.find("\n60 objects\n"));
-  EXPECT_EQ(std::string::npos, text.find("BAD HASH"));
-}
-
-TEST(AaDump, BadHash)
-{
-  Table table = makeTable(referred);
-  char key[] = "one";
-  aaPut(*table, key, 1);
-  key[0] = 'b';
-  EXPECT_EQ("Dumping table, ListSize = 64\nbne -> 1   BAD HASH!\n1 objects\n",
-            dumped(*table));
-}
-
-TEST(AaDump, BadBucket)
-{
-  Table table = makeTable(copied);
-  aaPut(*table, "", 1); // hash 65535, bucket 63
-  std::swap(table->buckets[63], table->buckets[0]);
-  EXPECT_EQ("Dumping table, ListSize = 64\n -> 1   BAD HASH!\n1 objects\n",
-            dumped(*table));
 }

@@ -110,7 +110,7 @@ TEST(Int64ToLong, TooLarge)
 TEST(Int64ToLong, BelowRangePassesWrongly)
 {
   int32_t result = 0;
-  EXPECT_TRUE(i64tol(number(-1, 1), result)); // -4294967295
+  EXPECT_TRUE(i64tol(number(-1, 1), result));  // -4294967295
   EXPECT_EQ(1, result);
   EXPECT_TRUE(i64tol(number(-1, 0x7FFFFFFF), result));
   EXPECT_EQ(2147483647, result);
@@ -254,6 +254,16 @@ TEST(Int64Add, WidenedOperands)
   EXPECT_EQ(Words(1, 0), words(value));
 }
 
+TEST(Int64Add, WidenedOperandsAtLimits)
+{
+  sint64 value;
+  EXPECT_EQ(Words(-1, 0x80000000), words(i64addl(value, sint64{}, INT32_MIN)));
+  EXPECT_EQ(Words(INT32_MAX, 0x80000000),
+            words(i64addl(value, i64min(), INT32_MIN)));
+  EXPECT_EQ(Words(INT32_MIN, 0xFFFFFFFE),
+            words(i64addul(value, i64max(), UINT32_MAX)));
+}
+
 TEST(Int64Add, DestinationIsOperand)
 {
   sint64 value = number(0, UINT32_MAX);
@@ -283,6 +293,9 @@ TEST(Int64Sub, WidenedOperands)
   EXPECT_EQ(&value, &i64subul(value, signedNumber(0), UINT32_MAX));
   EXPECT_EQ(Words(-1, 1), words(value));
   EXPECT_EQ(largest, words(i64subul(value, i64min(), 1)));
+  // Nothing in 32 bits is the negative of the smallest operand.
+  EXPECT_EQ(Words(0, 0x80000000), words(i64subl(value, sint64{}, INT32_MIN)));
+  EXPECT_EQ(smallest, words(i64subl(value, i64max(), -1)));
 }
 
 TEST(Int64Mul, FullProductOfWords)
@@ -321,6 +334,16 @@ TEST(Int64Mul, OverflowWraps)
   EXPECT_EQ("-2", decimal(i64mul(value, i64max(), signedNumber(2))));
   EXPECT_EQ(smallest, words(i64mul(value, i64min(), signedNumber(-1))));
   EXPECT_EQ("0", decimal(i64mul(value, number(1, 0), number(1, 0))));
+}
+
+TEST(Int64Mul, WidenedOperandsOverflow)
+{
+  sint64 value;
+  EXPECT_EQ(smallest, words(i64mull(value, i64min(), -1)));
+  EXPECT_EQ("0", decimal(i64mull(value, i64min(), INT32_MIN)));
+  // (2 to the 63rd - 1) * (2 to the 32nd - 1), of which 2 to the 63rd - 2 to
+  // the 32nd + 1 is left.
+  EXPECT_EQ(Words(INT32_MAX, 1), words(i64mulul(value, i64max(), UINT32_MAX)));
 }
 
 TEST(Int64Mul, WidenedOperands)
@@ -395,6 +418,10 @@ TEST(Int64Mod, AtLimits)
   EXPECT_EQ(7, i64modul(i64max(), 10));
   EXPECT_EQ(0, i64modl(i64min(), INT32_MIN));
   EXPECT_EQ(2147483647, i64modl(i64max(), INT32_MIN));
+  EXPECT_EQ(0, i64modl(i64min(), -1));
+  // 2 to the 63rd = 2147483648 * (2 to the 32nd - 1) + 2147483648
+  EXPECT_EQ(INT32_MIN, i64modul(i64min(), UINT32_MAX));
+  EXPECT_EQ(2147483647, i64modul(i64max(), UINT32_MAX));
 }
 
 // A remainder above 2147483647 comes out as the low word.

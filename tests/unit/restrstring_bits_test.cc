@@ -280,6 +280,12 @@ TEST_F(ConvBitString, NamedBitThatDoesNotFit)
   }
 }
 
+// A high word of -1 passes for 32 bits; the low word is what counts then.
+TEST_F(ConvBitString, NamedBitBelowRangePassesWrongly)
+{
+  EXPECT_EQ(bits(4, bitList(a, {-4294967295})), "01");
+}
+
 TEST_F(ConvBitString, NamedBitsByReference)
 {
   int32_t here = stxValue(a, stxNewInteger(0, 1));
@@ -495,6 +501,7 @@ TEST_F(LenFromNamedBits, HighestPlusOne)
       {{-(int64_t{1} << 40)}, 2147483647},  // does not fit either
       {{-5}, 0},
       {{-5, 2}, 3},
+      {{-4294967294, 0}, 3},  // passes for its low word, 2
   };
   for (auto &row : rows) {
     int32_t value = bitList(a, row.numbers);

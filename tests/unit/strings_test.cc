@@ -51,7 +51,7 @@ TEST(Strcmp16, Order)
   EXPECT_GT(strcmp16(u"ab", u"a"), 0);
   EXPECT_LT(strcmp16(u"", u"a"), 0);
   EXPECT_GT(strcmp16(u"\uff00", u"\u0001"), 0);
-  EXPECT_NE(0, strcmp16(u"\u0161", u"\u0061")); // same low octet
+  EXPECT_NE(0, strcmp16(u"\u0161", u"\u0061"));  // same low octet
 }
 
 TEST(Strcmp32, OnlyEqualOrNot)
@@ -62,7 +62,7 @@ TEST(Strcmp32, OnlyEqualOrNot)
   EXPECT_EQ(1, strcmp32(U"b", U"a"));
   EXPECT_EQ(1, strcmp32(U"a", U"ab"));
   EXPECT_EQ(1, strcmp32(U"ab", U"a"));
-  EXPECT_EQ(1, strcmp32(U"\U00010041", U"A")); // same low half
+  EXPECT_EQ(1, strcmp32(U"\U00010041", U"A"));  // same low half
 }
 
 TEST(Strchr16, FirstOrTerminator)
@@ -197,7 +197,7 @@ TEST(RemSpaces, NothingToDo)
 {
   std::string text = "a";
   EXPECT_EQ("a", remSpaces(text));
-  text = "\xA0x\xA0"; // no blank in the "C" locale
+  text = "\xA0x\xA0";  // no blank in the "C" locale
   EXPECT_EQ("\xA0x\xA0", remSpaces(text));
 }
 
@@ -261,6 +261,13 @@ TEST(SetFileName, KeepsExtension)
 {
   EXPECT_EQ("abc.asn", fileName("abc.asn", ".stx", false));
   EXPECT_EQ("a/b.", fileName("a/b.", ".stx", false));
+}
+
+TEST(SetFileName, NoLimitWithoutCut)
+{
+  std::string name(2000, 'n');
+  EXPECT_EQ(name + ".stx", fileName(name.c_str(), ".stx", false));
+  EXPECT_EQ(name + ".asn", fileName((name + ".asn").c_str(), ".stx", false));
 }
 
 TEST(SetFileName, TextIsVariable)
