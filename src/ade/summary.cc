@@ -11,7 +11,6 @@
 #include "base/strings.h"
 #include "base/textfile.h"
 #include "options/validators.h"
-#include <cstdlib>
 #include <cstring>
 #include <utility>
 
@@ -119,7 +118,7 @@ void adeSummaryWarning(const char *directory, const char *file, int32_t line,
 void adeSummaryFatalError(const char *text, const char *detail)
 {
   if (summaryRun.fatalEntered)
-    exit(2);
+    endRun(2);
   summaryRun.fatalEntered = true;
   adeSummaryOpenFile();
   adePutText(summaryRun.file, formatText("\nFATAL ERROR : %s\n", text));

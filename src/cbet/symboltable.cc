@@ -3,7 +3,9 @@
 #include "cbet/symboltable.h"
 #include "base/alloc.h"
 #include "base/diag.h"
+#include "store/records.h"
 #include "store/stricache.h"
+#include <cstdlib>
 
 struct SymbolTable {
   bool inMemory = false;
@@ -46,9 +48,12 @@ int32_t putSymbol(SymbolTable &table, const char *text)
 
 const char *getSymbol(const SymbolTable &table, int32_t index)
 {
-  if (index < 1 || index > getNrOfSymbols(table))
+  if (index == emptyStriIndex)
+    return "";
+  int64_t place = std::abs(int64_t{index});
+  if (place < 1 || place > getNrOfSymbols(table))
     fatalError(FATAL_READ_RECORD);
-  return table.texts.strings[static_cast<size_t>(index) - 1];
+  return table.texts.strings[static_cast<size_t>(place) - 1];
 }
 
 int32_t getNrOfSymbols(const SymbolTable &table)

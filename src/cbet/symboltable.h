@@ -15,10 +15,13 @@ void freeSymbolTable(SymbolTable *table);
 SymbolTable *newSymbolTable();
 void deleteSymbolTable(SymbolTable *table);
 
-// Adds the text, if it is new, and returns its number.
+// Adds the text, if it is new, and returns its number; null is fatal error
+// 10.
 int32_t putSymbol(SymbolTable &table, const char *text);
 
-// The text of a number; fatal error 9 for a number that was never given.
+// The text of a number; as for the strings of a module, the sign does not
+// count and `emptyStriIndex` is the empty text. Fatal error 9 for a number
+// that was never given.
 const char *getSymbol(const SymbolTable &table, int32_t index);
 
 int32_t getNrOfSymbols(const SymbolTable &table);

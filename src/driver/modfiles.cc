@@ -60,7 +60,10 @@ std::string &constructFileName(std::string &text, const char *before,
                                const char *after)
 {
   text.clear();
-  if (getMetaGenArr(module)[index] == SPLIT_NONE && type != FILE_TYPES)
+  bool isKnown = index >= 0 && index < outFileCount && type >= FILE_TYPES &&
+                 type <= FILE_PROTOTYPES;
+  if (!isKnown ||
+      (getMetaGenArr(module)[index] == SPLIT_NONE && type != FILE_TYPES))
     return text;
   getModulePrefix(text, before, module, nullptr);
   text += categoryWord(module, index);

@@ -45,12 +45,21 @@ static std::string demo()
   return stxEncode(tree);
 }
 
-static std::string abc() { return stxEncode(oneEntry("Abc-Def", "abc")); }
+static std::string abc()
+{
+  return stxEncode(oneEntry("Abc-Def", "abc"));
+}
 
-static std::string xyz() { return stxEncode(oneEntry("Xyz", "xyz")); }
+static std::string xyz()
+{
+  return stxEncode(oneEntry("Xyz", "xyz"));
+}
 
 // Neither entry nor visible types.
-static std::string empty() { return stxEncode(stxNewTree("Empty", "empty")); }
+static std::string empty()
+{
+  return stxEncode(stxNewTree("Empty", "empty"));
+}
 
 // A module whose name is as long as the header's line is wide.
 static std::string longname()
@@ -68,6 +77,14 @@ static std::string dirs()
                              {"-C=src", "-H=inc/", info.c_str()}));
 }
 
+// An info text that makes the header longer than what a stream holds back.
+static std::string biginfo()
+{
+  std::string info = "-INFO=" + std::string(30000, 'i');
+  return stxEncode(
+      withLines(oneEntry("Biginfo", "bigin"), TED_FRONT_END, {info.c_str()}));
+}
+
 // The generated files go where there is no directory.
 static std::string nodir()
 {
@@ -78,7 +95,10 @@ static std::string nodir()
 // "top" imports declarations from "left" and "right", and "right" from
 // "left"; "left" and "right" import "base", and "top" takes nothing from
 // "base".
-static std::string base() { return stxEncode(oneEntry("Base", "base")); }
+static std::string base()
+{
+  return stxEncode(oneEntry("Base", "base"));
+}
 
 static std::string left()
 {
@@ -213,20 +233,19 @@ static std::string wildted()
 // one unknown.
 static std::string saved()
 {
-  return stxEncode(withLines(
-      oneEntry("Saved", "saved"), TED_BACK_END,
-      {"-BEO=QUORVEN=PERCOD=2:2", "-BERFUNCPREF=yes", "-BEO=OTHER=X",
-       "-BEO=QUORVEN=COLOUR=red"}));
+  return stxEncode(withLines(oneEntry("Saved", "saved"), TED_BACK_END,
+                             {"-BEO=QUORVEN=PERCOD=2:2", "-BERFUNCPREF=yes",
+                              "-BEO=OTHER=X", "-BEO=QUORVEN=COLOUR=red"}));
 }
 
 // Once bad, always bad: the lines of other passes behind a bad line go with
 // it until a line is good again.
 static std::string sticky()
 {
-  return stxEncode(withLines(
-      oneEntry("Sticky", "stick"), TED_BACK_END,
-      {"-PREFIX=Sticky:stick:stick", "-BEO=QUORVEN=COLOUR=red", "-V=3",
-       "-PREFIXLEN=7", "-VERBOSE=terse", "-V=3"}));
+  return stxEncode(
+      withLines(oneEntry("Sticky", "stick"), TED_BACK_END,
+                {"-PREFIX=Sticky:stick:stick", "-BEO=QUORVEN=COLOUR=red",
+                 "-V=3", "-PREFIXLEN=7", "-VERBOSE=terse", "-V=3"}));
 }
 
 // Front-end options under scopes: the second INFO= is for another module.
@@ -255,20 +274,35 @@ struct Recipe {
 };
 
 static const Recipe recipes[] = {
-    {"demo", "demo", demo},         {"abc", "abc", abc},
-    {"xyz", "xyz", xyz},            {"empty", "empty", empty},
-    {"longname", "long", longname}, {"dirs", "dirs", dirs},
-    {"nodir", "nodir", nodir},      {"base", "base", base},
-    {"left", "left", left},         {"right", "right", right},
-    {"top", "top", top},            {"cyca", "cyca", cyca},
-    {"cycb", "cycb", cycb},         {"via", "via", via},
-    {"hollow", "hollo", hollow},    {"lost", "lost", lost},
-    {"outer", "outer", outer},      {"old", "old", old},
-    {"newer", "newer", newer},      {"cut", "cut", cut},
-    {"absurd", "absrd", absurd},    {"foreign", "forei", foreign},
-    {"noname", "nonam", noname},    {"wildted", "wted", wildted},
-    {"saved", "saved", saved},      {"sticky", "stick", sticky},
-    {"scoped", "scope", scoped},    {"prefixed", "pref", prefixed},
+    {"demo", "demo", demo},
+    {"abc", "abc", abc},
+    {"xyz", "xyz", xyz},
+    {"empty", "empty", empty},
+    {"longname", "long", longname},
+    {"dirs", "dirs", dirs},
+    {"nodir", "nodir", nodir},
+    {"base", "base", base},
+    {"left", "left", left},
+    {"right", "right", right},
+    {"top", "top", top},
+    {"cyca", "cyca", cyca},
+    {"cycb", "cycb", cycb},
+    {"via", "via", via},
+    {"hollow", "hollo", hollow},
+    {"lost", "lost", lost},
+    {"outer", "outer", outer},
+    {"old", "old", old},
+    {"newer", "newer", newer},
+    {"cut", "cut", cut},
+    {"absurd", "absrd", absurd},
+    {"foreign", "forei", foreign},
+    {"noname", "nonam", noname},
+    {"wildted", "wted", wildted},
+    {"saved", "saved", saved},
+    {"sticky", "stick", sticky},
+    {"scoped", "scope", scoped},
+    {"prefixed", "pref", prefixed},
+    {"biginfo", "bigin", biginfo},
 };
 
 static int writeRecipe(const char *directory, const char *name)
@@ -276,8 +310,7 @@ static int writeRecipe(const char *directory, const char *name)
   for (const Recipe &recipe : recipes) {
     if (strcmp(recipe.name, name) != 0)
       continue;
-    std::string path =
-        std::string(directory) + "/" + recipe.prefix + ".stx";
+    std::string path = std::string(directory) + "/" + recipe.prefix + ".stx";
     if (stxWriteOctets(recipe.make(), path.c_str()))
       return 0;
     perror(path.c_str());

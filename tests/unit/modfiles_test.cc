@@ -237,6 +237,21 @@ TEST_F(ModFiles, MissingDirectory)
                     run.path("none/abcpec.c") + "\n\n"));
 }
 
+TEST_F(ModFiles, MissingDirectoryOfPrototypes)
+{
+  stxGlobalOption(tree, TED_FRONT_END, "-C=" + run.dir.path);
+  stxGlobalOption(tree, TED_FRONT_END, "-H=" + run.path("none"));
+  run.add(tree, "abc");
+  run.load({"abc"});
+  abc = run.module("abc");
+  EXPECT_EXIT(openFile(6, abc, 2, 6), ExitedWithCode(2),
+              StrEq("\nFATAL ERROR : Can not open file for writing\n"
+                    "              " +
+                    run.path("none/abcper.ext") + "\n\n"));
+  openFile(5, abc, 1, 5);
+  EXPECT_NE(fArr[5].fp, nullptr);
+}
+
 TEST_F(ModFiles, IncludeOfAFile)
 {
   openNamedF(1, run.dir.path.c_str(), "out");

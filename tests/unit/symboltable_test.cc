@@ -1,6 +1,7 @@
 // Symbol tables: numbering, look-up both ways, the record's life.
 
 #include "cbet/symboltable.h"
+#include <cstdint>
 #include <gtest/gtest.h>
 #include <string>
 
@@ -64,9 +65,29 @@ TEST_F(SymbolTableTest, ManySymbols)
 TEST_F(SymbolTableTest, NumbersThatWereNeverGiven)
 {
   putSymbol(*table, "only");
-  for (int32_t index : {0, 2, 1000})
+  for (int32_t index : {0, 2, 1000, -2, INT32_MAX, INT32_MIN})
     EXPECT_EXIT(getSymbol(*table, index), testing::ExitedWithCode(2),
                 "Can not read record from syntax tree");
+}
+
+TEST_F(SymbolTableTest, SignDoesNotCount)
+{
+  putSymbol(*table, "a");
+  putSymbol(*table, "b");
+  EXPECT_STREQ(getSymbol(*table, -1), "a");
+  EXPECT_STREQ(getSymbol(*table, -2), "b");
+}
+
+TEST_F(SymbolTableTest, NumberOfTheEmptyText)
+{
+  EXPECT_STREQ(getSymbol(*table, 2147483642), "");
+  EXPECT_EQ(getNrOfSymbols(*table), 0);
+}
+
+TEST_F(SymbolTableTest, NullIsNoText)
+{
+  EXPECT_EXIT(putSymbol(*table, nullptr), testing::ExitedWithCode(2),
+              "Can not write record into syntax tree");
 }
 
 TEST_F(SymbolTableTest, TablesAreApart)
