@@ -6,7 +6,11 @@
 A case is a directory:
 
     cmd            the arguments of quorven, quoted as in a shell; each line
-                   is one run, an empty line or file a run without arguments
+                   is one run, an empty line or file a run without arguments;
+                   a line "!PROGRAM ..." runs a companion instead
+    *.asn          modules, copied into the working directory
+    asn            if present: what asn2stx compiles into stx/ ahead of the
+                   runs, as "[options] FILE.asn ..."
     trees          recipes of the program maketrees, written into stx/; a line
                    "DIR: NAME..." writes into another directory, "#" begins a
                    comment
@@ -19,6 +23,8 @@ A case is a directory:
       status         exit status, one line a run
     expect-unaligned/
                    the same for basic-unaligned, where that differs
+
+Of a tree that a run writes only its name is compared: "!stxdump" shows it.
 
 Only cmd and expect/ are needed. The working directory is a fresh one, and
 quorven runs in it. Each variant runs twice, and both runs must agree.
@@ -47,6 +53,9 @@ from pathlib import Path
 TIMEOUT = 60  # seconds a run; a hang is a failure
 UNALIGNED = b"-ENCODING-VARIANT=basic-unaligned"
 GENERATED_START = b"/****"
+COMPANIONS = {b"!asn2stx": "tools/asn2stx/asn2stx",
+              b"!stxdump": "tools/stx/stxdump"}
+TREE_STAMP = "--stamp=20240101:120000"
 STAMP_LINE = re.compile(
     rb"^(?P<before>.*Processed by QUORVEN\b.*?)"
     rb"\bon (?P<stamp>\d\d\.\d\d\.\d+ at \d+:\d\d\.\d\d)",
@@ -78,8 +87,22 @@ def command_lines(case, variant_arguments):
     for line in text.splitlines() or [""]:
         words = [word.encode("utf-8", "surrogateescape")
                  for word in shlex.split(line)]
-        runs.append(words + variant_arguments)
+        if words and words[0] in COMPANIONS:
+            runs.append(words)
+        else:
+            runs.append([b"quorven", *words, *variant_arguments])
     return runs
+
+
+def program_path(binary_dir, word):
+    return os.fsencode(binary_dir / COMPANIONS.get(word, "quorven"))
+
+
+def compile_asn(case, binary_dir, work):
+    (work / "stx").mkdir(exist_ok=True)
+    arguments = shlex.split((case / "asn").read_text())
+    helper([binary_dir / COMPANIONS[b"!asn2stx"], TREE_STAMP, "-o", "stx",
+            *arguments], work)
 
 
 def helper(arguments, work):
@@ -110,8 +133,12 @@ def prepare(case, binary_dir, work):
     if (case / "files").is_dir():
         shutil.copytree(case / "files", work, symlinks=True,
                         dirs_exist_ok=True)
+    for module in case.glob("*.asn"):
+        shutil.copy(module, work)
     if (case / "trees").exists():
         make_trees(case, binary_dir, work)
+    if (case / "asn").exists():
+        compile_asn(case, binary_dir, work)
     if (case / "setup").exists():
         helper(["sh", "-e", case / "setup"], work)
 
@@ -128,6 +155,8 @@ def snapshot(work):
                 content = path.read_bytes()
             except PermissionError:
                 content = b"(not readable)"
+            if path.suffix == ".stx":
+                content = b"(a tree)\n"
             files[path.relative_to(work).as_posix()] = content
     return files
 
@@ -167,7 +196,7 @@ def run_once(case, binary_dir, variant_arguments):
         for arguments in command_lines(case, variant_arguments):
             try:
                 done = subprocess.run(
-                    [os.fsencode(binary_dir / "quorven"), *arguments],
+                    [program_path(binary_dir, arguments[0]), *arguments[1:]],
                     cwd=work, env=run_environment(), timeout=TIMEOUT,
                     stdin=subprocess.DEVNULL, capture_output=True,
                     check=False)

@@ -417,6 +417,19 @@ TEST_F(ModLoad, PredefinedModule)
   EXPECT_EQ(getModPtr(a, 3), moduleOf("b"));
 }
 
+// It is told by the entry's name, whatever record the prefix leads to.
+TEST_F(ModLoad, PredefinedModuleWithThePrefixOfAnother)
+{
+  StxTree tree = treeOf("a", {"b"});
+  stxImport(tree, "ISO8824", "b", true);
+  write(tree, "a");
+  writeOf("b");
+  ModRec *a = name("a");
+  readAllSyntaxTrees();
+  EXPECT_EQ(getModPtr(a, 3), moduleOf("b"));
+  EXPECT_EQ(statusesOfRun(), "23");
+}
+
 // Only the exact name is predefined.
 TEST_F(ModLoad, NearlyPredefinedModule)
 {

@@ -124,6 +124,22 @@ TEST(StxEncode, TypeNodeWithoutBounds)
             octetsOf({255, 255, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0}));
 }
 
+// Integers, enumerations and what has no bounds begin at the least number,
+// strings and lists at 0, the least size.
+TEST(StxNewTNode, SizesBeginAtZero)
+{
+  for (int mainType = 0; mainType < TYP_COUNT; ++mainType) {
+    bool sized = mainType == 4 || mainType == 5 || mainType == 8 ||
+                 mainType == 10 || (mainType >= 15 && mainType <= 24) ||
+                 mainType == 30;
+    TNode node = stxNewTNode(mainType);
+    EXPECT_EQ(node.lowerEndpoint.high, sized ? 0 : INT32_MIN) << mainType;
+    EXPECT_EQ(node.lowerEndpoint.low, 0u) << mainType;
+    EXPECT_EQ(node.upperEndpoint.high, INT32_MAX) << mainType;
+    EXPECT_EQ(node.upperEndpoint.low, UINT32_MAX) << mainType;
+  }
+}
+
 TEST(StxEncode, ValueNode)
 {
   StxTree tree = stxNewTree("M", "m");
@@ -411,6 +427,20 @@ TEST(StxAddComp, GroupMembersCountForTheStructure)
   EXPECT_EQ(stxTypeAt(tree, group).compStatus, 0);
   EXPECT_EQ(stxTypeAt(tree, seq).nrComps, 3);
   EXPECT_EQ(stxTypeAt(tree, seq).nodeFlags, NF_EXTENSIBLE | NF_MANDATORY_COMPS);
+}
+
+TEST(StxAddComp, GroupMembersInAChoiceAreAlternatives)
+{
+  StxTree tree = stxNewTree("M", "m");
+  int32_t choice = stxType(tree, stxNewTNode(TYP_CHOICE));
+  stxAddComp(tree, choice, "", stxNewTNode(TYP_EXTENSION_MARKER));
+  int32_t group = stxAddComp(tree, choice, "", stxNewTNode(TYP_EXTADDGRP));
+  int32_t member = stxAddComp(tree, group, "x", stxNewTNode(TYP_NULL));
+  EXPECT_EQ(stxTypeAt(tree, group).compStatus, TCS_CHOICE);
+  EXPECT_EQ(stxTypeAt(tree, member).compStatus, TCS_CHOICE);
+  EXPECT_EQ(stxTypeAt(tree, group).nodeFlags, 0);
+  EXPECT_EQ(stxTypeAt(tree, choice).nodeFlags, NF_EXTENSIBLE);
+  EXPECT_EQ(stxTypeAt(tree, choice).nrComps, 2);
 }
 
 TEST(StxAddNamedNumber, ItemsOfAnEnumeration)

@@ -491,6 +491,19 @@ TEST_F(TreeStore, ChainGuardAllowsAllRecordsOfTheRun)
               "Syntax tree inconsistent\n +a\n");
 }
 
+// 10000 levels are good, and each is given back at its end.
+TEST_F(TreeStore, NestingGuard)
+{
+  int depth = maxNesting - 1;
+  {
+    NestingGuard last(depth, a);
+    EXPECT_EQ(depth, 10000);
+    EXPECT_EXIT(NestingGuard(depth, a), ExitedWithCode(2),
+                "Syntax tree inconsistent\n +a\n");
+  }
+  EXPECT_EQ(depth, 9999);
+}
+
 TEST_F(TreeStore, TreeInconsistentWithoutPrefix)
 {
   EXPECT_EXIT(treeInconsistent(nullptr), ExitedWithCode(2),
@@ -572,6 +585,8 @@ TEST_F(TreeStore, PutStriWhileLoading)
   EXPECT_EQ(putStri32(a, U"unheard of"), 0);
   EXPECT_EQ(a->stris.strings.size(), count);
   EXPECT_EQ(a->nextFree[REC_STRI], 0);
+  // Only an appended string moves the cursor.
+  EXPECT_EQ(currTPtr[REC_STRI], nullptr);
   EXPECT_STREQ(getStri(a, 1), "Mod_a");
   EXPECT_EXIT(getStri(a, putStri(a, "unheard of")), ExitedWithCode(2), noRead);
 }

@@ -9,7 +9,7 @@
 
 // Where the lines about faults go: "stxdump: NAME: text".
 struct StxFaults {
-  FILE *to = nullptr; // null: they are only counted
+  FILE *to = nullptr;  // null: they are only counted
   const char *name = "";
   long count = 0;
 };
@@ -19,14 +19,14 @@ struct StxFaults {
 
 // A string in the octets of the file.
 struct StxText {
-  size_t offset = 0;  // of its first unit
-  uint32_t units = 0; // without the terminating zero
+  size_t offset = 0;   // of its first unit
+  uint32_t units = 0;  // without the terminating zero
 };
 
 struct StxFile {
   std::string octets;
-  size_t headerOctets = 0; // of the header, 112 unless the file is cut
-  bool headerGood = false; // whole, and of a version that is known
+  size_t headerOctets = 0;  // of the header, 112 unless the file is cut
+  bool headerGood = false;  // whole, and of a version that is known
   MNode header;
   std::vector<MNode> imports;
   std::vector<TNode> tNodes;
@@ -35,13 +35,13 @@ struct StxFile {
   std::vector<SubRec> subRecs;
   std::vector<TedRec> tedRecs;
   std::vector<SNode> sNodes;
-  std::vector<StxText> texts[3]; // of kinds 7, 8 and 9
-  size_t end = 0;                // octets read
+  std::vector<StxText> texts[3];  // of kinds 7, 8 and 9
+  size_t end = 0;                 // octets read
 
   // What the records say of each other, by index - 1.
-  std::vector<bool> classFields;  // type nodes that are fields of a class
-  std::vector<bool> fieldValues;  // values that are fields of an object
-  std::vector<bool> typeCarriers; // values whose `firstChild` is a type
+  std::vector<bool> classFields;   // type nodes that are fields of a class
+  std::vector<bool> fieldValues;   // values that are fields of an object
+  std::vector<bool> typeCarriers;  // values whose `firstChild` is a type
 };
 
 // Reads the file's octets; false, with errno set, if that fails. What is no
@@ -67,12 +67,12 @@ uint32_t stxUnit(const StxFile &file, int kind, const StxText &text,
 
 // What an index of a value or a constraint stands for.
 enum StxOperand : int {
-  STX_NOTHING, // not an index, or one whose kind cannot be told
+  STX_NOTHING,  // not an index, or one whose kind cannot be told
   STX_TYPE,
-  STX_VALUE,  // a reference to a value
-  STX_VALUES, // the first value of a chain
+  STX_VALUE,   // a reference to a value
+  STX_VALUES,  // the first value of a chain
   STX_SUB,
-  STX_SUBS // the first constraint of a chain
+  STX_SUBS  // the first constraint of a chain
 };
 
 // `firstChild` of a value, `operand1` and `operand2` of a constraint.

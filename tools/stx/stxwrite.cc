@@ -213,6 +213,21 @@ SNode &stxLinkAt(StxTree &tree, int32_t index)
   return recordAt(tree.sNodes, index, "link");
 }
 
+// True for strings and lists, whose bounds are those of a size.
+static bool isSized(int mainType)
+{
+  switch (mainType) {
+  case TYP_BITSTR:
+  case TYP_OCTSTR:
+  case TYP_SEQOF:
+  case TYP_SETOF:
+  case TYP_OBJDESCR:
+    return true;
+  default:
+    return mainType >= TYP_NUMSTR && mainType <= TYP_UNISTR;
+  }
+}
+
 TNode stxNewTNode(int mainType, int valueField)
 {
   TNode node;
@@ -220,8 +235,10 @@ TNode stxNewTNode(int mainType, int valueField)
   node.valueField = static_cast<uint8_t>(valueField);
   node.typeOptions.definiteLength = 255;
   node.typeOptions.skipKind = 255;
-  // No bounds known; zeros would say that the only value is 0.
-  stxSetBounds(node, std::numeric_limits<int64_t>::min(),
+  // No bounds known; zeros would say that the only value is 0. A size runs
+  // from 0 in any case.
+  stxSetBounds(node,
+               isSized(mainType) ? 0 : std::numeric_limits<int64_t>::min(),
                std::numeric_limits<int64_t>::max());
   return node;
 }
@@ -351,8 +368,12 @@ static int compStatusIn(const TNode &father, const TNode &comp)
 int32_t stxAddComp(StxTree &tree, int32_t father, std::string_view name,
                    TNode node)
 {
+  // A group's members are of the structure that it stands in.
+  auto outer = tree.groupFathers.find(father);
+  bool inGroup = outer != tree.groupFathers.end();
   node.identifier = nameIndex(tree, name);
-  node.compStatus = compStatusIn(stxTypeAt(tree, father), node);
+  node.compStatus =
+      compStatusIn(stxTypeAt(tree, inGroup ? outer->second : father), node);
   int32_t index = stxType(tree, node);
   TNode &structure = stxTypeAt(tree, father);
   linkBehind(tree.tNodes, structure.ref, &TNode::next, tree.compTails, father,
@@ -365,8 +386,7 @@ int32_t stxAddComp(StxTree &tree, int32_t father, std::string_view name,
     return index;
   }
   countComp(structure, node);
-  auto outer = tree.groupFathers.find(father);
-  if (outer != tree.groupFathers.end())
+  if (inGroup)
     countComp(stxTypeAt(tree, outer->second), node);
   return index;
 }

@@ -30,8 +30,8 @@ struct StxTail {
 typedef std::unordered_map<int32_t, StxTail> StxTails;
 
 struct StxTree {
-  MNode header;               // `counts` are set on encoding
-  std::vector<MNode> imports; // module number 2 first
+  MNode header;                // `counts` are set on encoding
+  std::vector<MNode> imports;  // module number 2 first
   std::vector<TNode> tNodes;
   std::vector<VNode> vNodes;
   std::vector<TagRec> tagRecs;
@@ -45,13 +45,13 @@ struct StxTree {
   // Characters that are left of a prefix in a "-PREFIX=" line.
   size_t prefixLength = 5;
 
-  StxTails typeTails; // of the top-level chain, by 0
+  StxTails typeTails;  // of the top-level chain, by 0
   StxTails valueTails;
   StxTails compTails;
   StxTails numberTails;
   StxTails tagTails;
   StxTails childTails;
-  std::unordered_map<int32_t, int32_t> groupFathers; // by addition group
+  std::unordered_map<int32_t, int32_t> groupFathers;  // by addition group
 };
 
 // A tree with versions 213, a fixed time of writing, the source
@@ -90,10 +90,10 @@ SubRec &stxSubAt(StxTree &tree, int32_t index);
 TedRec &stxTedAt(StxTree &tree, int32_t index);
 SNode &stxLinkAt(StxTree &tree, int32_t index);
 
-// Records as a good tree has them: a type without bounds, SKIP or size
-// limit; a reference to a type; a literal (status 2) governed by a type of
-// module 1; a constraint; a link to a type, or to a value by its negated
-// index.
+// Records as a good tree has them: a type without SKIP or size limit, and
+// without bounds but that of a size, which is never below 0; a reference to a
+// type; a literal (status 2) governed by a type of module 1; a constraint; a
+// link to a type, or to a value by its negated index.
 TNode stxNewTNode(int mainType, int valueField = VF_NONE);
 TNode stxNewSynonym(int32_t ref, int32_t refModule = 1);
 VNode stxNewVNode(int mainType, int32_t governor);
@@ -113,8 +113,8 @@ int32_t stxDefineType(StxTree &tree, std::string_view name, TNode node);
 int32_t stxDefineValue(StxTree &tree, std::string_view name, VNode node);
 
 // Appends a component, alternative, element or class field; an empty name
-// leaves the node without one. Status 0 becomes TCS_CHOICE in a CHOICE and
-// TCS_MULTIPLE in a list. Of the father, `nrComps` and the summary bits for
+// leaves the node without one. Status 0 becomes TCS_CHOICE in a CHOICE, and
+// in a group of one, and TCS_MULTIPLE in a list. Of the father, `nrComps` and the summary bits for
 // optional and mandatory components and the marker are kept. A group's
 // members count for the group and for the structure that it stands in, the
 // group itself does not count. A COMPONENTS OF entry counts as one: its
