@@ -1,6 +1,7 @@
 #pragma once
 #include <cstddef>
 #include <new>
+#include <type_traits>
 
 // Allocation that never returns null: no memory is a fatal error, and so is
 // a request for nothing.
@@ -35,7 +36,8 @@ void *genericCacheAlloc(CacheBlock *&cache, size_t size);
 void genericCacheFree(void *object, CacheBlock *&cache);
 
 // The same for objects with members of their own: value-initialised on the
-// way out, destroyed on the way back.
+// way out, destroyed on the way back. One that needs no destruction keeps
+// what was written into it last: a mark that it was given back already.
 template <class T>
 T *cacheNew(CacheBlock *&cache)
 {
@@ -46,7 +48,8 @@ T *cacheNew(CacheBlock *&cache)
 template <class T>
 void cacheDelete(T *object, CacheBlock *&cache)
 {
-  if (object)
-    object->~T();
+  if constexpr (!std::is_trivially_destructible_v<T>)
+    if (object)
+      object->~T();
   genericCacheFree(object, cache);
 }

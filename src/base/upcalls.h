@@ -8,8 +8,17 @@
 // includes a header from above. Whoever defines a name stands beside it.
 
 struct AsnModule;
+struct AsnObjClass;
+struct AsnObject;
+struct AsnObjectSet;
 struct AsnType;
+struct AsnValue;
+struct BEClassMetaRec;
 struct BEModMetaRec;
+struct BEObjMetaRec;
+struct BEObjSetMetaRec;
+struct BETypMetaRec;
+struct BEValMetaRec;
 struct ModRec;
 struct TedRange;
 
@@ -38,6 +47,33 @@ void initBEModMetaRec();
 // Applies one option line (with its "-"); false if it is unknown or its
 // value is refused. A line for another tool is good.
 bool globalBEOptionOK(BEModMetaRec &record, const char *option);
+
+// The record of a type, made while the type is built; null for a partial one.
+BETypMetaRec *newBETypMetaRec(const AsnType &type);
+void deleteBETypMetaRec(AsnType &type, BETypMetaRec *record);
+
+// Applies one option line of a type's node; what is not known draws a
+// warning. The record is null for a partial type, which is passed over.
+void typeBEOptionOK(AsnType &type, BETypMetaRec *record, const char *option);
+
+// The records of values, classes, objects and object sets, which hold
+// nothing, and the option lines of their nodes, of which none is known and
+// all are passed over. (driver/metaobjects.cc)
+BEValMetaRec *newBEValMetaRec();
+void deleteBEValMetaRec(BEValMetaRec *record);
+void valueBEOptionOK(AsnValue &value, BEValMetaRec &record, const char *option);
+BEClassMetaRec *newBEClassMetaRec();
+void deleteBEClassMetaRec(BEClassMetaRec *record);
+void classBEOptionOK(AsnObjClass &objClass, BEClassMetaRec &record,
+                     const char *option);
+BEObjMetaRec *newBEObjMetaRec();
+void deleteBEObjMetaRec(BEObjMetaRec *record);
+void objectBEOptionOK(AsnObject &object, BEObjMetaRec &record,
+                      const char *option);
+BEObjSetMetaRec *newBEObjSetMetaRec();
+void deleteBEObjSetMetaRec(BEObjSetMetaRec *record);
+void objectSetBEOptionOK(AsnObjectSet &objectSet, BEObjSetMetaRec &record,
+                         const char *option);
 
 // The lines of the back-end's options, read from the module's record.
 int getMetaVerbosity(const AsnModule &module);

@@ -9,7 +9,9 @@
 #include "cbet/cvars.h"
 #include "cbet/errorformat.h"
 #include "cbet/outfile.h"
+#include "model/constraint.h"
 #include "model/infvalue.h"
+#include "model/typepath.h"
 #include "options/params.h"
 #include "options/passes.h"
 #include "store/module.h"
@@ -54,6 +56,8 @@ void initBackend(int count, char **vector, const char *name, int version,
     if (module->treeStatus != TREE_PREDEFINED)
       applyCommandLine(*module, count, vector);
   progress("\n");
+  initializeAsnTypes();
+  initializeAsnConstraints();
 }
 
 void cInitCBET(int count, char **vector, const char *name, int version,

@@ -199,6 +199,7 @@ void resetStore()
     module = next;
   }
   bOfModRList = eOfModRList = fstOfModRList = lstOfModRList = cMP = nullptr;
+  byGenerationPrefix.clear();
   exportingDepth = 0;
   clearCursors();
   resetLoading();

@@ -138,6 +138,25 @@ TEST_F(ValueNodes, FieldPathOnlyWithAll)
   EXPECT_EQ(endOf(outer, true), base);
 }
 
+TEST_F(ValueNodes, OneStepAtATime)
+{
+  int32_t base = value(TYP_NULL);
+  int32_t inner = reference(base);
+  int32_t list = fieldList(stxLink(tree, stxNewLink(-inner)));
+  int32_t outer = reference(list);
+  load();
+  readRec(m, REC_VNODE, outer);
+  EXPECT_TRUE(skipOneValue(false));
+  EXPECT_EQ(vNode.line, list);
+  EXPECT_FALSE(skipOneValue(false));
+  EXPECT_EQ(vNode.line, list);
+  EXPECT_TRUE(skipOneValue(true));
+  EXPECT_EQ(vNode.line, inner);
+  EXPECT_TRUE(skipOneValue(true));
+  EXPECT_FALSE(skipOneValue(true));
+  EXPECT_EQ(vNode.line, base);
+}
+
 TEST_F(ValueNodes, FieldPathTakesTheLastLink)
 {
   int32_t wrong = value(TYP_NULL);

@@ -1,0 +1,92 @@
+// Meta records of types.
+
+#include "driver/typemeta.h"
+#include "ade/summary.h"
+#include "base/alloc.h"
+#include "base/diag.h"
+#include "base/strings.h"
+#include "cbet/typewarn.h"
+#include "model/typequery.h"
+#include "options/passes.h"
+#include <cstring>
+
+static CacheBlock *cache__BETypMetaRec;
+
+BETypMetaRec *newBETypMetaRec(const AsnType &type)
+{
+  if (isPartialTypeInfo(type))
+    return nullptr;
+  BETypMetaRec *record = cacheNew<BETypMetaRec>(cache__BETypMetaRec);
+  if (isTypeExtensionmarker(type))
+    record->compId = "extensionmarker";
+  else if (isComponentType(type))
+    getTypeCompId(record->compId, nullptr, type, "_fld");
+  return record;
+}
+
+void deleteBETypMetaRec(AsnType &, BETypMetaRec *record)
+{
+  cacheDelete(record, cache__BETypMetaRec);
+}
+
+static const char *textOrNull(const AsnType &type,
+                              std::string BETypMetaRec::*member)
+{
+  const BETypMetaRec *record = getBETypMetaRec(type);
+  return record && !(record->*member).empty() ? (record->*member).c_str()
+                                              : nullptr;
+}
+
+const char *getMetaCompId(const AsnType &type)
+{
+  return textOrNull(type, &BETypMetaRec::compId);
+}
+
+const char *getMetaFuncId(const AsnType &type)
+{
+  return textOrNull(type, &BETypMetaRec::funcId);
+}
+
+const char *getMetaFuncOption(const AsnType &type)
+{
+  return textOrNull(type, &BETypMetaRec::funcOption);
+}
+
+// FUNC:identifier:text, for an INTEGER.
+static bool funcOptionOK(const AsnType &type, BETypMetaRec &record,
+                         const char *option)
+{
+  static const char name[] = "FUNC:";
+  if (!startsWith(option, name) || getTypeMainType(type) != TYP_INTEGER)
+    return false;
+  const char *id = option + strlen(name);
+  const char *end = id;
+  while (isLetterOrDigitChar(*end) || *end == '_')
+    ++end;
+  if (!isLetterChar(*id) || *end != ':')
+    return false;
+  record.funcId.assign(id, end);
+  record.funcOption = end + 1;
+  return true;
+}
+
+static void reportUnknown(const AsnType &type, const char *option)
+{
+  typeWarning(type, "Unrecognized type specific option:");
+  warning(option);
+  if (!adeIsActive())
+    return;
+  const GlobalOptions &options = type.homeMod->rec->options;
+  adeSummaryWarning(options.sourceDirectory, orEmpty(options.sourceFileName),
+                    getTypeDefinitionLine(type), "Warning", option);
+}
+
+void typeBEOptionOK(AsnType &type, BETypMetaRec *record, const char *option)
+{
+  static const char block[] = "QUORVEN=";
+  const char *text = parseBEOption(option, block, sizeof block - 1);
+  if (!text || !record || isPartialTypeInfo(type))
+    return;
+  if (!funcOptionOK(type, *record, text))
+    reportUnknown(type, option);
+}
