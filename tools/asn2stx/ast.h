@@ -44,6 +44,7 @@
 constexpr int maxAstDepth = 200;
 
 struct AstActual;
+struct AstClass;
 struct AstComp;
 struct AstConstraint;
 struct AstElem;
@@ -347,6 +348,10 @@ struct AstBraces {
   std::vector<AstArc> arcs;
   std::vector<AstSetting> settings;
   AstTokens tokens;
+
+  // What `tokens` are in the defined syntax of a class, once that is known.
+  const AstClass *matchedClass = nullptr;
+  std::vector<AstSetting> matched;
 };
 
 struct AstValue {

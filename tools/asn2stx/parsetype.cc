@@ -59,7 +59,8 @@ static bool isValueStart(const Token &token, const Token &next)
 // object.&Type and Module.object.&Type
 static bool isFieldOfObject(const Parser &parser)
 {
-  int i = peek(parser).kind == TOK_UPPER ? 2 : 0;
+  bool isQualified = atKind(parser, TOK_UPPER) && isSign(peek(parser, 1), '.');
+  int i = isQualified ? 2 : 0;
   if (peek(parser, i).kind != TOK_LOWER)
     return false;
   const Token *last = nullptr;

@@ -1,0 +1,434 @@
+// Bits and counts that hang on several records, worked out when all records
+// of the run are there.
+
+#include "asn2stx/summary.h"
+#include "asn2stx/gentype.h"
+#include <algorithm>
+
+// Components
+
+// What the components of a node come to.
+struct CompsSum {
+  enum : uint8_t { NEW, RUNNING, DONE } state = NEW;
+  int32_t root = 0;   // components ahead of the first marker
+  int32_t total = 0;  // with markers and members
+  uint16_t rootBits = 0;
+  uint16_t bits = 0;
+};
+
+typedef std::vector<std::vector<CompsSum>> CompsSums;  // by module, node - 1
+
+constexpr int maxFlattenDepth = 500;
+constexpr int32_t maxFlattened = 100000;
+
+static const TNode &nodeAt(Compilation &c, NodeAt at)
+{
+  return stxTypeAt(treeOf(c, at.module), at.node);
+}
+
+// Where the text of a node is, to the line.
+static AsnPos linePos(Compilation &c, NodeAt at)
+{
+  AsnPos pos;
+  pos.file = moduleAt(c, at.module).ast->pos.file;
+  pos.line = nodeAt(c, at).line;
+  pos.column = 1;
+  return pos;
+}
+
+static bool isStructure(int mainType)
+{
+  return mainType == TYP_SEQ || mainType == TYP_SET || mainType == TYP_CHOICE;
+}
+
+// True for a CHOICE, ANY or open type that no tag stands ahead of.
+static bool isUntagged(Compilation &c, NodeAt at)
+{
+  constexpr int maxChain = 1000;
+  for (int steps = 0; steps < maxChain; ++steps) {
+    const TNode &node = nodeAt(c, at);
+    if (node.firstTag != 0)
+      return false;
+    if (node.mainType != TYP_SYNONYM || node.ref == 0)
+      break;
+    NodeAt next = {moduleOfNumber(c, at.module, node.refModule), node.ref};
+    if (next.module < 0)
+      return false;
+    at = next;
+  }
+  NodeAt base = baseNode(c, at);
+  if (base.node <= 0)
+    return false;
+  int mainType = nodeAt(c, base).mainType;
+  return mainType == TYP_CHOICE || mainType == TYP_ANY || mainType == TYP_OPEN;
+}
+
+static uint16_t compBits(Compilation &c, NodeAt at, bool automatic)
+{
+  const TNode &node = nodeAt(c, at);
+  uint16_t bits = 0;
+  if (node.mainType == TYP_EXTENSION_MARKER)
+    return NF_EXTENSIBLE;
+  if (node.compStatus == TCS_OPTIONAL)
+    bits |= NF_OPTIONAL_COMPS;
+  if (node.compStatus == TCS_MANDATORY)
+    bits |= NF_MANDATORY_COMPS;
+  if (!automatic && isUntagged(c, at))
+    bits |= NF_UNTAGGED_COMPS;
+  return bits;
+}
+
+struct FlattenRun {
+  Compilation &c;
+  CompsSums sums;
+  int depth = 0;
+};
+
+static const CompsSum &sumOf(FlattenRun &run, NodeAt at);
+
+static void addCounts(CompsSum &sum, int32_t count, uint16_t bits,
+                      bool behindMarker)
+{
+  sum.total = std::min(maxFlattened, sum.total + count);
+  sum.bits |= bits;
+  if (!behindMarker) {
+    sum.root = std::min(maxFlattened, sum.root + count);
+    sum.rootBits |= bits;
+  }
+}
+
+// The root components that a COMPONENTS OF node stands for.
+static CompsSum sumOfCompsOf(FlattenRun &run, NodeAt at, int fatherType)
+{
+  Compilation &c = run.c;
+  NodeAt base = baseNode(c, at);
+  AsnPos pos = linePos(c, at);
+  if (base.node <= 0)
+    return {};
+  int mainType = nodeAt(c, base).mainType;
+  if (mainType != fatherType && fatherType != TYP_EXTADDGRP) {
+    asnError(c.errors, pos, "COMPONENTS OF names a type of another kind");
+    return {};
+  }
+  const CompsSum &inner = sumOf(run, base);
+  if (inner.state == CompsSum::RUNNING) {
+    asnError(c.errors, pos, "circular COMPONENTS OF");
+    return {};
+  }
+  return inner;
+}
+
+static void addChain(FlattenRun &run, NodeAt father, bool automatic,
+                     CompsSum &sum)
+{
+  Compilation &c = run.c;
+  int fatherType = nodeAt(c, father).mainType;
+  int32_t index = nodeAt(c, father).ref;
+  bool behindMarker = false;
+  while (index != 0) {
+    NodeAt at = {father.module, index};
+    const TNode &node = nodeAt(c, at);
+    behindMarker = behindMarker || node.mainType == TYP_EXTENSION_MARKER;
+    if (node.compStatus == TCS_COMPOF) {
+      CompsSum inner = sumOfCompsOf(run, at, fatherType);
+      addCounts(
+          sum, inner.root,
+          static_cast<uint16_t>(inner.rootBits & ~(automatic ? NF_UNTAGGED_COMPS
+                                                             : NF_EXTENSIBLE)),
+          behindMarker);
+    } else if (node.mainType == TYP_EXTADDGRP) {
+      CompsSum members;
+      addChain(run, at, automatic, members);
+      TNode &group = stxTypeAt(treeOf(c, at.module), index);
+      group.nrComps = members.total;
+      group.nodeFlags |= members.bits;
+      addCounts(sum, members.total, members.bits, behindMarker);
+    } else {
+      addCounts(sum, 1, compBits(c, at, automatic), behindMarker);
+    }
+    index = nodeAt(c, at).next;
+  }
+}
+
+static const CompsSum &sumOf(FlattenRun &run, NodeAt at)
+{
+  Compilation &c = run.c;
+  CompsSum &sum = run.sums[static_cast<size_t>(at.module)]
+                          [static_cast<size_t>(at.node) - 1];
+  if (sum.state != CompsSum::NEW)
+    return sum;
+  sum.state = CompsSum::RUNNING;
+  if (++run.depth > maxFlattenDepth) {
+    if (!c.exhausted)
+      asnError(c.errors, moduleAt(c, at.module).ast->pos,
+               "COMPONENTS OF is nested too deeply");
+    c.exhausted = true;
+  } else {
+    CompsSum made;
+    TNode &node = stxTypeAt(treeOf(c, at.module), at.node);
+    addChain(run, at, (node.nodeFlags & NF_AUTOMATIC_TAGS) != 0, made);
+    node.nrComps = made.total;
+    node.nodeFlags |= made.bits;
+    sum = made;
+    if (made.total == maxFlattened)
+      asnError(c.errors, linePos(c, at), "more than %d components",
+               maxFlattened - 1);
+  }
+  --run.depth;
+  sum.state = CompsSum::DONE;
+  return sum;
+}
+
+static void flattenAll(Compilation &c)
+{
+  FlattenRun run = {c, {}, 0};
+  for (ModuleState &module : c.modules)
+    run.sums.emplace_back(module.tree.tNodes.size());
+  for (ModuleState &module : c.modules)
+    for (size_t i = 0; i < module.tree.tNodes.size(); ++i)
+      if (isStructure(module.tree.tNodes[i].mainType))
+        sumOf(run, {module.number, static_cast<int32_t>(i) + 1});
+}
+
+// The graph of type nodes
+
+// Edges from a node to what its type is made of, by node number over all
+// modules.
+struct TypeGraph {
+  std::vector<size_t> base;   // number of a module's first node
+  std::vector<size_t> first;  // edge of a node; one more behind the last
+  std::vector<size_t> to;
+};
+
+static bool hasChain(int mainType)
+{
+  return isStructure(mainType) || mainType == TYP_SEQOF ||
+         mainType == TYP_SETOF || mainType == TYP_EXTADDGRP;
+}
+
+static void addEdges(Compilation &c, TypeGraph &graph, NodeAt at)
+{
+  const TNode &node = nodeAt(c, at);
+  auto add = [&](NodeAt target) {
+    if (target.node > 0 && target.module >= 0)
+      graph.to.push_back(graph.base[static_cast<size_t>(target.module)] +
+                         static_cast<size_t>(target.node) - 1);
+  };
+  if (node.mainType == TYP_SYNONYM && node.ref != 0)
+    add({moduleOfNumber(c, at.module, node.refModule), node.ref});
+  else if (node.mainType == TYP_SELECTION || node.mainType == TYP_FIELDLIST)
+    add(baseNode(c, at));
+  else if (hasChain(node.mainType))
+    for (int32_t comp = node.ref; comp != 0;
+         comp = nodeAt(c, {at.module, comp}).next)
+      add({at.module, comp});
+}
+
+static TypeGraph makeGraph(Compilation &c)
+{
+  TypeGraph graph;
+  size_t count = 0;
+  for (ModuleState &module : c.modules) {
+    graph.base.push_back(count);
+    count += module.tree.tNodes.size();
+  }
+  for (ModuleState &module : c.modules)
+    for (size_t i = 0; i < module.tree.tNodes.size(); ++i) {
+      graph.first.push_back(graph.to.size());
+      addEdges(c, graph, {module.number, static_cast<int32_t>(i) + 1});
+    }
+  graph.first.push_back(graph.to.size());
+  return graph;
+}
+
+// Marks the nodes that lie on a circle: Tarjan's search for strongly
+// connected components, with its own stack, as chains may be long.
+struct CircleSearch {
+  std::vector<size_t> order;  // of discovery, from 1
+  std::vector<size_t> low;
+  std::vector<size_t> open;
+  std::vector<bool> isOpen;
+  std::vector<bool> onCircle;
+  size_t count = 0;
+};
+
+static void closeComponent(const TypeGraph &graph, CircleSearch &search,
+                           size_t node)
+{
+  bool alone = search.open.back() == node;
+  size_t member;
+  do {
+    member = search.open.back();
+    search.open.pop_back();
+    search.isOpen[member] = false;
+    search.onCircle[member] = !alone;
+  } while (member != node);
+  if (alone)
+    for (size_t e = graph.first[node]; e < graph.first[node + 1]; ++e)
+      if (graph.to[e] == node)
+        search.onCircle[node] = true;
+}
+
+static void searchFrom(const TypeGraph &graph, CircleSearch &search,
+                       size_t start)
+{
+  struct Step {
+    size_t node;
+    size_t edge;
+  };
+  std::vector<Step> way;
+  auto enter = [&](size_t node) {
+    search.order[node] = search.low[node] = ++search.count;
+    search.open.push_back(node);
+    search.isOpen[node] = true;
+    way.push_back({node, graph.first[node]});
+  };
+  enter(start);
+  while (!way.empty()) {
+    size_t node = way.back().node;
+    if (way.back().edge < graph.first[node + 1]) {
+      size_t to = graph.to[way.back().edge++];
+      if (search.order[to] == 0)
+        enter(to);
+      else if (search.isOpen[to])
+        search.low[node] = std::min(search.low[node], search.order[to]);
+      continue;
+    }
+    way.pop_back();
+    if (!way.empty()) {
+      size_t father = way.back().node;
+      search.low[father] = std::min(search.low[father], search.low[node]);
+    }
+    if (search.low[node] == search.order[node])
+      closeComponent(graph, search, node);
+  }
+}
+
+static std::vector<bool> circleNodes(const TypeGraph &graph)
+{
+  size_t count = graph.first.size() - 1;
+  CircleSearch search;
+  search.order.resize(count);
+  search.low.resize(count);
+  search.isOpen.resize(count);
+  search.onCircle.resize(count);
+  for (size_t i = 0; i < count; ++i)
+    if (search.order[i] == 0)
+      searchFrom(graph, search, i);
+  return search.onCircle;
+}
+
+static void markRecursion(Compilation &c)
+{
+  TypeGraph graph = makeGraph(c);
+  std::vector<bool> onCircle = circleNodes(graph);
+  for (ModuleState &module : c.modules) {
+    size_t base = graph.base[static_cast<size_t>(module.number)];
+    for (size_t i = 0; i < module.tree.tNodes.size(); ++i) {
+      TNode &node = module.tree.tNodes[i];
+      bool isDefinition = std::abs(node.compStatus) == TCS_HEADER;
+      if (onCircle[base + i] && (isDefinition || node.mainType == TYP_SYNONYM))
+        node.nodeFlags |= NF_RECURSIVE;
+    }
+  }
+}
+
+void summarizeTypes(Compilation &c)
+{
+  flattenAll(c);
+  markRecursion(c);
+}
+
+// Behind the annotations
+
+static bool isSkipped(const TNode &node)
+{
+  return node.nodeOptions & (1u << optSkip);
+}
+
+// A reference carries the SKIP kind of the definition it leads to.
+static void spreadSkip(Compilation &c, ModuleState &module)
+{
+  constexpr int maxChain = 1000;
+  for (TNode &node : module.tree.tNodes) {
+    NodeAt at = {module.number, 0};
+    const TNode *target = &node;
+    for (int steps = 0; steps < maxChain && !isSkipped(*target) &&
+                        target->mainType == TYP_SYNONYM && target->ref != 0;
+         ++steps) {
+      int next = moduleOfNumber(c, at.module, target->refModule);
+      if (next < 0)
+        break;
+      at = {next, target->ref};
+      target = &nodeAt(c, at);
+    }
+    if (isSkipped(*target))
+      node.typeOptions.skipKind = target->typeOptions.skipKind;
+  }
+}
+
+static void markIgnorable(Compilation &c)
+{
+  TypeGraph graph = makeGraph(c);
+  std::vector<size_t> open;
+  std::vector<bool> seen(graph.first.size());
+  auto visit = [&](size_t node) {
+    if (!seen[node])
+      open.push_back(node);
+    seen[node] = true;
+  };
+  for (ModuleState &module : c.modules) {
+    size_t base = graph.base[static_cast<size_t>(module.number)];
+    for (size_t i = 0; i < module.tree.tNodes.size(); ++i) {
+      const TNode &node = module.tree.tNodes[i];
+      const TypeOptions &options = node.typeOptions;
+      bool isList = node.mainType == TYP_SEQOF || node.mainType == TYP_SETOF;
+      if (options.skipKind == 0)
+        visit(base + i);
+      if (isList && options.sizeLimit > 0 && options.limitAction == 0 &&
+          node.ref > 0)
+        visit(base + static_cast<size_t>(node.ref) - 1);
+    }
+  }
+  while (!open.empty()) {
+    size_t at = open.back();
+    open.pop_back();
+    for (size_t e = graph.first[at]; e < graph.first[at + 1]; ++e)
+      visit(graph.to[e]);
+  }
+  for (ModuleState &module : c.modules) {
+    size_t base = graph.base[static_cast<size_t>(module.number)];
+    for (size_t i = 0; i < module.tree.tNodes.size(); ++i)
+      if (seen[base + i] &&
+          module.tree.tNodes[i].mainType != TYP_EXTENSION_MARKER)
+        module.tree.tNodes[i].nodeFlags |= NF_IGNORABLE;
+  }
+}
+
+static void countDefinitions(Compilation &c, ModuleState &module)
+{
+  MNode &header = module.tree.header;
+  header.nrVisibleTypes = header.nrEntryTypes = header.nrObjectSets = 0;
+  for (const Definition *def : module.order) {
+    if (def->node == 0 || def->kind == DK_VALUE || def->kind == DK_OBJECT)
+      continue;
+    const TNode &node = nodeAt(c, {module.number, def->node});
+    bool isType = def->kind == DK_TYPE || def->kind == DK_VALUE_SET;
+    if (def->kind == DK_OBJECT_SET)
+      ++header.nrObjectSets;
+    if (isType &&
+        (header.visibilityMode == 0 || (node.classFlags & CF_VISIBLE)))
+      ++header.nrVisibleTypes;
+    if (node.entryFlags != 0)
+      ++header.nrEntryTypes;
+  }
+}
+
+void finishHeaders(Compilation &c)
+{
+  for (ModuleState &module : c.modules)
+    spreadSkip(c, module);
+  markIgnorable(c);
+  for (ModuleState &module : c.modules)
+    countDefinitions(c, module);
+}
