@@ -12,6 +12,7 @@
 #include "model/typequery.h"
 #include <algorithm>
 #include <cstdlib>
+#include <utility>
 #include <vector>
 
 static const char badOtherModule[] =
@@ -310,10 +311,30 @@ AsnType *nextTypeComp(AsnType *comp, int autoTagNr)
   return continueWith(comp, found, autoTagNr);
 }
 
-// The records of a holder's sons, in order.
-static std::vector<int32_t> sonRecords(AsnType &holder)
-{
+// Room for record numbers; given back, it serves the next walk.
+static std::vector<std::vector<int32_t>> freeRooms;
+
+struct RecordRoom {
   std::vector<int32_t> records;
+  RecordRoom()
+  {
+    if (freeRooms.empty())
+      return;
+    records.swap(freeRooms.back());
+    freeRooms.pop_back();
+  }
+  ~RecordRoom()
+  {
+    records.clear();
+    freeRooms.push_back(std::move(records));
+  }
+  RecordRoom(const RecordRoom &) = delete;
+  RecordRoom &operator=(const RecordRoom &) = delete;
+};
+
+// Fills in the records of a holder's sons, in order.
+static void listSons(AsnType &holder, std::vector<int32_t> &records)
+{
   AsnModule &module = *holder.mod;
   ModuleCursors before = module.cursors;
   ChainGuard guard(module.rec, REC_TNODE);
@@ -323,7 +344,6 @@ static std::vector<int32_t> sonRecords(AsnType &holder)
     records.push_back(recJustRead[REC_TNODE].index);
   }
   module.cursors = before;
-  return records;
 }
 
 static bool isExtensibleStructure(const AsnType &type)
@@ -335,7 +355,9 @@ AsnType *lastTypeComp(AsnType &type, int autoTagNr)
 {
   if (!hasSons(type, true))
     return nullptr;
-  std::vector<int32_t> records = sonRecords(type);
+  RecordRoom room;
+  const std::vector<int32_t> &records = room.records;
+  listSons(type, room.records);
   if (records.empty())
     return nullptr;
   // The marker takes no tag.
@@ -350,7 +372,9 @@ AsnType *lastTypeComp(AsnType &type, int autoTagNr)
 
 AsnType *prevTypeComp(AsnType *comp, int autoTagNr)
 {
-  std::vector<int32_t> records = sonRecords(holderOf(*comp));
+  RecordRoom room;
+  const std::vector<int32_t> &records = room.records;
+  listSons(holderOf(*comp), room.records);
   size_t at = 0;
   while (at < records.size() && records[at] != comp->compRecNr)
     ++at;
@@ -458,6 +482,8 @@ static void visitComponentsOf(SonWalk &walk, AsnType &holder, AsnType &son)
 {
   if (son.base.nrComps == 0)
     return;
+  if (componentsOfNesting >= maxWalkNesting)
+    treeInconsistent(son.baseModRec);
   NestingGuard nesting(componentsOfNesting, son.baseModRec);
   AsnModule *mod = son.mod;
   AsnModule *homeMod = son.homeMod;
@@ -513,9 +539,10 @@ static void walkBackward(SonWalk &walk, AsnType &holder, bool compsOnly)
     return;
   if (isExtensibleStructure(walk.father) && !isComponentsOf(holder))
     --walk.autoTag;
-  std::vector<int32_t> records = sonRecords(holder);
-  for (size_t i = records.size(); i-- > 0;) {
-    readRec(holder.mod->rec, REC_TNODE, records[i]);
+  RecordRoom room;
+  listSons(holder, room.records);
+  for (size_t i = room.records.size(); i-- > 0;) {
+    readRec(holder.mod->rec, REC_TNODE, room.records[i]);
     OwnedType owned(holder.mod, holder.homeMod);
     buildSon(*owned.type, holder.mod, holder.homeMod, fatherOfSons(holder),
              isGroup(holder) ? &holder : nullptr, walk.autoTag);

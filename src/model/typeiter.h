@@ -15,6 +15,10 @@ typedef void SelectionVisit(AsnType &type, AsnType &alternative,
                             AsnType &choice);
 typedef void TypeCommentCallBack(AsnType &type, const char *text, int index);
 
+// Levels of a recursion through walks: one takes far more stack than a step of
+// the store does. Beyond, the tree is damaged, fatal error 15.
+constexpr int maxWalkNesting = 1000;
+
 // --- Node selection. Moves the type cursor of `kind` in the module along its
 // chain to the next node that fits, which becomes current; the cursor stands
 // behind it. False at the end.

@@ -8,7 +8,10 @@
 
 TPathStack tPathStack;
 
-void initTPathStack(TPathStack &stack) { initStack(stack); }
+void initTPathStack(TPathStack &stack)
+{
+  initStack(stack);
+}
 
 void pushTPathStack(TPathStack &stack, const TPath &path)
 {
@@ -64,7 +67,10 @@ void popPath()
   popTPathStack(tPathStack);
 }
 
-void resetPath() { clearTPathStack(tPathStack); }
+void resetPath()
+{
+  clearTPathStack(tPathStack);
+}
 
 void addElemToPath(const char *text)
 {
@@ -94,7 +100,10 @@ const char *getPath()
   return path ? path->text : nullptr;
 }
 
-bool typePathInUse() { return stackTop(tPathStack); }
+bool typePathInUse()
+{
+  return stackTop(tPathStack);
+}
 
 void initializeAsnTypes()
 {

@@ -591,9 +591,10 @@ int32_t int64ToInt32(sint64 value, const AsnModule *module, int32_t line,
     return INT32_MAX;
   if (i64ismin(value))
     return INT32_MIN;
-  // `i64tol` passes some numbers below the range.
-  if (i64cmpl(value, INT32_MIN) >= 0 && i64cmpl(value, INT32_MAX) <= 0)
-    return static_cast<int32_t>(i64lo(value));
+  // Some numbers below the range pass, and come out wrong: `i64tol`.
+  int32_t number = 0;
+  if (i64tol(value, number))
+    return number;
   if (module)
     int64Warning(*module, line, label);
   return 0;

@@ -129,7 +129,6 @@ TEST(AsnRepresent, OneFieldForAKind)
       {"BOOLEAN", VF_BOOL, 0},
       {"NULL", VF_NULL, 0},
       {"ANY", VF_ANY, 0},
-      {"TYPE-IDENTIFIER.&Type", VF_OPEN, 0},
       {"EMBEDDED PDV", VF_EMB_PDV, 0},
       {"OBJECT IDENTIFIER", VF_OBJI, 0},
       {"EXTERNAL", VF_EXTERNAL_1990, 0},
@@ -137,6 +136,16 @@ TEST(AsnRepresent, OneFieldForAKind)
       {"UTCTime", VF_COMT, 0},
   };
   expectFields(cases);
+}
+
+TEST(AsnRepresent, OpenType)
+{
+  AsnCompiled compiled = compileBody("A ::= INSTANCE OF TYPE-IDENTIFIER");
+  StxTree &tree = treeOf(compiled);
+  const TNode &value = stxTypeAt(tree, compsOf(tree, 1).back());
+  ASSERT_EQ(value.mainType, TYP_OPEN);
+  EXPECT_EQ(value.valueField, VF_OPEN);
+  EXPECT_EQ(value.valueFieldSize, 0);
 }
 
 TEST(AsnRepresent, ReferencesAndMarkersHaveNone)

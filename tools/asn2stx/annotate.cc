@@ -58,8 +58,7 @@ static bool fieldOf(Compilation &c, const AsnAnnotation &note, uint8_t &field)
 }
 
 // "ignore" is 0, "error" is 1.
-static bool actionOf(Compilation &c, const AsnAnnotation &note,
-                     uint8_t &action)
+static bool actionOf(Compilation &c, const AsnAnnotation &note, uint8_t &action)
 {
   bool isError = note.value == "error";
   if (note.hasValue && !isError && note.value != "ignore") {
@@ -97,11 +96,16 @@ struct OptionWord {
 };
 
 static const OptionWord optionWords[] = {
-    {"asnhome", optAsnHome},       {"pointer", optPointer},
-    {"asnhc", optAsnhc},           {"ptrcomps", optPtrComps},
-    {"frame", optFrame},           {"homelist", optHomeList},
-    {"homeelems", optHomeElems},   {"dynamicarray", optDynamicArray},
-    {"inherited15", optInherited15}, {"extmarkerfield", optExtMarkerField},
+    {"asnhome", optAsnHome},
+    {"pointer", optPointer},
+    {"asnhc", optAsnhc},
+    {"ptrcomps", optPtrComps},
+    {"frame", optFrame},
+    {"homelist", optHomeList},
+    {"homeelems", optHomeElems},
+    {"dynamicarray", optDynamicArray},
+    {"inherited15", optInherited15},
+    {"extmarkerfield", optExtMarkerField},
 };
 
 struct FlagWord {
@@ -134,8 +138,8 @@ static bool applyBit(TNode &node, const std::string &key)
   }
   for (const FlagWord &row : flagWords) {
     if (word == row.word) {
-      node.nodeFlags = static_cast<uint16_t>(
-          clear ? node.nodeFlags & ~row.flag : node.nodeFlags | row.flag);
+      node.nodeFlags = static_cast<uint16_t>(clear ? node.nodeFlags & ~row.flag
+                                                   : node.nodeFlags | row.flag);
       return true;
     }
   }
@@ -162,8 +166,6 @@ static void applySkip(NoteTarget &target, const AsnAnnotation &note)
   TNode &node = typeOf(target);
   node.nodeOptions |= 1u << optSkip;
   node.typeOptions.skipKind = kind;
-  if (kind == 0)
-    node.nodeFlags |= NF_IGNORABLE;
 }
 
 static void applyLimit(NoteTarget &target, const AsnAnnotation &note)
@@ -175,7 +177,8 @@ static void applyLimit(NoteTarget &target, const AsnAnnotation &note)
 
 static void applyLimitAction(NoteTarget &target, const AsnAnnotation &note)
 {
-  actionOf(target.c, note, typeOf(target).typeOptions.limitAction);
+  if (needsValue(target.c, note))
+    actionOf(target.c, note, typeOf(target).typeOptions.limitAction);
 }
 
 static void applyDefiniteLen(NoteTarget &target, const AsnAnnotation &note)
@@ -249,13 +252,18 @@ static void applyEmbed(NoteTarget &target, const AsnAnnotation &note)
 }
 
 static const NoteWord typeWords[] = {
-    {"field", applyField},         {"size", applySize},
-    {"skip", applySkip},           {"limit", applyLimit},
+    {"field", applyField},
+    {"size", applySize},
+    {"skip", applySkip},
+    {"limit", applyLimit},
     {"limitaction", applyLimitAction},
     {"definitelen", applyDefiniteLen},
-    {"entry", applyEntry},         {"entrybits", applyEntryBits},
-    {"visible", applyVisible},     {"hidden", applyHidden},
-    {"option", applyOption},       {"beo", applyBeo},
+    {"entry", applyEntry},
+    {"entrybits", applyEntryBits},
+    {"visible", applyVisible},
+    {"hidden", applyHidden},
+    {"option", applyOption},
+    {"beo", applyBeo},
     {"embed", applyEmbed},
 };
 

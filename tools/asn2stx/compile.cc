@@ -248,11 +248,34 @@ static void genValueDefinition(Compilation &c, ModuleState &module,
   c.lateValues.push_back(late);
 }
 
+// True if the governor names a class: the value is an object, then.
+static bool isObject(Compilation &c, const LateValue &late)
+{
+  const AstType *governor = late.governor.type;
+  return governor && governor->kind == AT_REFERENCE &&
+         late.value->kind == AV_BRACES &&
+         kindOf(c, governor->ref, *late.governor.scope) == DK_CLASS;
+}
+
+// The default of an object field, written in place.
+static void genDefaultObject(Compilation &c, const LateValue &late)
+{
+  VNode node = stxNewVNode(TYP_CLASS, late.governorNode);
+  node.line = late.value->pos.line;
+  StxTree &tree = treeOf(c, late.into);
+  int32_t object = stxValue(tree, node);
+  stxTypeAt(tree, late.owner).defaultValue = object;
+  genObjectInto(c, late.into, *late.scope, *late.governor.type, *late.value,
+                object);
+}
+
 static void genLateValue(Compilation &c, const LateValue &late)
 {
   NodeAt at = {late.into, late.governorNode};
   c.currentValue = late.def;
-  if (late.node != 0) {
+  if (late.node == 0 && isObject(c, late)) {
+    genDefaultObject(c, late);
+  } else if (late.node != 0) {
     genValueInto(c, late.into, *late.scope, *late.value, late.governor, at,
                  late.node);
   } else {

@@ -78,7 +78,9 @@ static int32_t genSingleValue(ElemRun &run, const AstElem &elem)
 {
   Compilation &c = run.c;
   // `({object})` reads as a value where a table may stand.
-  if (elem.value->kind == AV_BRACES && parentKind(run) == TYP_OPEN) {
+  bool isFieldOfClass = run.parent.type && run.parent.type->kind == AT_FIELD;
+  if (elem.value->kind == AV_BRACES &&
+      (parentKind(run) == TYP_OPEN || isFieldOfClass)) {
     AstElem &table = c.ast.elems.emplace_back();
     AstTokens tokens = elem.value->braces->tokens;
     table.pos = elem.pos;

@@ -176,8 +176,7 @@ void genStringValue(Compilation &c, int into, const Scope &scope,
     for (const AstItem &item : value.braces->items) {
       if (!item.value || !item.name.empty())
         return valueMisfit(c, value);
-      int32_t segment =
-          addSegment(c, into, node, at, mainType, item.pos.line);
+      int32_t segment = addSegment(c, into, node, at, mainType, item.pos.line);
       genValueInto(c, into, scope, *item.value, base, at, segment);
     }
     if (!value.braces->isEmpty)

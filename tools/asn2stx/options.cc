@@ -72,8 +72,8 @@ static bool takePrefix(Asn2StxOptions &options, const std::string &value)
       parts[1].empty())
     return false;
   // Files are named by the last part.
-  options.prefixes.emplace_back(parts[0], parts.back().empty() ? parts[1]
-                                                               : parts.back());
+  options.prefixes.emplace_back(parts[0],
+                                parts.back().empty() ? parts[1] : parts.back());
   return true;
 }
 

@@ -157,8 +157,7 @@ static void representStructure(const GlobalOptions &options, TNode &node)
   if (node.mainType == TYP_CHOICE)
     node.valueFieldSize = chosen(options.choiceSize, countField(node.nrComps));
   else if (node.mainType == TYP_SET || node.nodeFlags & NF_OPTIONAL_COMPS)
-    node.valueFieldSize =
-        chosen(options.compMaskSize, maskField(node.nrComps));
+    node.valueFieldSize = chosen(options.compMaskSize, maskField(node.nrComps));
 }
 
 // --- entries ----------------------------------------------------------------
