@@ -3,6 +3,7 @@
 
 #include "asn2stx/annotate.h"
 #include "base/strings.h"
+#include "options/params.h"
 #include <cstdlib>
 #include <iterator>
 
@@ -215,10 +216,13 @@ static void applyHidden(NoteTarget &target, const AsnAnnotation &)
   typeOf(target).hidden = 1;
 }
 
-// A naming option of the node, with or without its "-".
+// A naming option of the node, with or without its "-"; its name in
+// capitals.
 static std::string lineOf(const AsnAnnotation &note)
 {
-  return note.value.starts_with("-") ? note.value : "-" + note.value;
+  std::string line =
+      note.value.starts_with("-") ? note.value : "-" + note.value;
+  return optionToUpper(line);
 }
 
 // The line for the back-end: as it is if it is one already, else in the

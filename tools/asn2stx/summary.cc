@@ -419,9 +419,12 @@ static void countDefinitions(Compilation &c, ModuleState &module)
     if (isType &&
         (header.visibilityMode == 0 || (node.classFlags & CF_VISIBLE)))
       ++header.nrVisibleTypes;
+  }
+  // Entries may be components, and copies that uses of parameterized
+  // definitions have.
+  for (const TNode &node : module.tree.tNodes)
     if (node.entryFlags != 0)
       ++header.nrEntryTypes;
-  }
 }
 
 void finishHeaders(Compilation &c)
