@@ -25,8 +25,7 @@ static std::vector<std::string> linesOf(const StxTree &tree, int32_t first,
   std::vector<std::string> lines;
   for (int32_t i = first; i != 0 && i <= last; ++i) {
     const TedRec &ted = tree.tedRecs.at(static_cast<size_t>(i) - 1);
-    lines.push_back(std::to_string(ted.tedKind) + " " +
-                    striAt(tree, ted.text));
+    lines.push_back(std::to_string(ted.tedKind) + " " + striAt(tree, ted.text));
   }
   return lines;
 }
@@ -64,11 +63,11 @@ struct BitCase {
 TEST(AsnAnnotate, OptionBits)
 {
   static const BitCase cases[] = {
-      {"asnhome", 1u << 6},       {"pointer", 1u << 7},
-      {"asnhc", 1u << 8},         {"ptrcomps", 1u << 9},
-      {"frame", 1u << 10},        {"homelist", 1u << 11},
-      {"homeelems", 1u << 12},    {"dynamicarray", 1u << 13},
-      {"inherited15", 1u << 15},  {"extmarkerfield", 1u << 17},
+      {"asnhome", 1u << 6},      {"pointer", 1u << 7},
+      {"asnhc", 1u << 8},        {"ptrcomps", 1u << 9},
+      {"frame", 1u << 10},       {"homelist", 1u << 11},
+      {"homeelems", 1u << 12},   {"dynamicarray", 1u << 13},
+      {"inherited15", 1u << 15}, {"extmarkerfield", 1u << 17},
   };
   for (const BitCase &row : cases) {
     std::string word = row.word;
@@ -169,8 +168,7 @@ TEST(AsnAnnotate, LimitOfLists)
 
 TEST(AsnAnnotate, DefiniteLength)
 {
-  EXPECT_EQ(annotated("NULL", "definitelen=0").typeOptions.definiteLength,
-            0);
+  EXPECT_EQ(annotated("NULL", "definitelen=0").typeOptions.definiteLength, 0);
   EXPECT_EQ(annotated("NULL", "definitelen=7").typeOptions.definiteLength, 7);
   EXPECT_EQ(annotated("NULL", "hidden").typeOptions.definiteLength,
             TypeOptions{}.definiteLength);
@@ -186,9 +184,12 @@ TEST(AsnAnnotate, Entries)
     int category;
   };
   static const EntryCase cases[] = {
-      {"entry", 0x4C, 0},        {"entry=PDU", 0x4C, 1},
-      {"entry=sdu", 0x4C, 2},    {"entry=377", 0x4C, 255},
-      {"entrybits=0x05", 5, 0},  {"entrybits=255", 255, 0},
+      {"entry", 0x4C, 0},
+      {"entry=PDU", 0x4C, 1},
+      {"entry=sdu", 0x4C, 2},
+      {"entry=377", 0x4C, 255},
+      {"entrybits=0x05", 5, 0},
+      {"entrybits=255", 255, 0},
       {"entry=PDU entrybits=0", 0, 1},
   };
   for (const EntryCase &row : cases) {
@@ -207,9 +208,9 @@ TEST(AsnAnnotate, CountsOfTheHeader)
   AsnCompiled all = compileBody(body);
   EXPECT_EQ(treeOf(all).header.nrVisibleTypes, 3);
   EXPECT_EQ(treeOf(all).header.nrEntryTypes, 1);
-  AsnCompiled some = compileAsn(
-      std::string("M DEFINITIONS ::= BEGIN --$ visibility=1\n") + body +
-      "\nEND");
+  AsnCompiled some =
+      compileAsn(std::string("M DEFINITIONS ::= BEGIN --$ visibility=1\n") +
+                 body + "\nEND");
   EXPECT_EQ(treeOf(some).header.visibilityMode, 1);
   EXPECT_EQ(treeOf(some).header.nrVisibleTypes, 2);
 }
@@ -237,10 +238,10 @@ TEST(AsnAnnotate, VisibleAndHidden)
 
 TEST(AsnAnnotate, LinesOfTypesAndValues)
 {
-  AsnCompiled compiled = compileBody(
-      "A ::= NULL --$ option=\"-TPREF=x\" beo=\"FUNC:f\"\n"
-      "B ::= SEQUENCE { a NULL --$ embed=\"E1:int i;\"\n }\n"
-      "v INTEGER ::= 1 --$ option=\"VPREF=y\" beo=\"//a b\"");
+  AsnCompiled compiled =
+      compileBody("A ::= NULL --$ option=\"-TPREF=x\" beo=\"FUNC:f\"\n"
+                  "B ::= SEQUENCE { a NULL --$ embed=\"E1:int i;\"\n }\n"
+                  "v INTEGER ::= 1 --$ option=\"VPREF=y\" beo=\"//a b\"");
   StxTree &tree = treeOf(compiled);
   const TNode &a = defOf(tree, "A");
   EXPECT_THAT(linesOf(tree, a.firstTed, a.lastTed),
@@ -280,9 +281,9 @@ TEST(AsnAnnotate, WordsOfModules)
 
 TEST(AsnAnnotate, ElementsItemsAndOwners)
 {
-  AsnCompiled compiled = compileBody(
-      "L ::= SEQUENCE OF --$ asnhome -- INTEGER --$ pointer\n"
-      "E ::= ENUMERATED { a, --$ hidden\n b }");
+  AsnCompiled compiled =
+      compileBody("L ::= SEQUENCE OF --$ asnhome -- INTEGER --$ pointer\n"
+                  "E ::= ENUMERATED { a, --$ hidden\n b }");
   StxTree &tree = treeOf(compiled);
   const TNode &list = defOf(tree, "L");
   EXPECT_FALSE(list.nodeOptions & (1u << optAsnHome));
@@ -316,8 +317,7 @@ TEST(AsnAnnotate, BadNotesOnTypes)
       {"limit", "annotation \"limit\" needs a value"},
       {"limit=0", "bad value \"0\" of annotation \"limit\""},
       {"limit=-1", "bad value \"-1\" of annotation \"limit\""},
-      {"limit=2147483648",
-       "bad value \"2147483648\" of annotation \"limit\""},
+      {"limit=2147483648", "bad value \"2147483648\" of annotation \"limit\""},
       {"limit=1x", "bad value \"1x\" of annotation \"limit\""},
       {"limit=0x", "bad value \"0x\" of annotation \"limit\""},
       {"limitaction", "annotation \"limitaction\" needs a value"},
@@ -363,4 +363,22 @@ TEST(AsnAnnotate, SeveralErrorsInARun)
                           "2:18: unknown annotation \"y\"",
                           "3:16: annotation \"size\" needs a value"));
   EXPECT_THAT(compiled.trees, IsEmpty());
+}
+
+TEST(AsnAnnotate, EntriesBelowDefinitionsCount)
+{
+  AsnCompiled compiled = compileBody("A ::= SEQUENCE { --$ entry\n"
+                                     "  a NULL --$ entry\n"
+                                     "}\n"
+                                     "B ::= NULL");
+  EXPECT_EQ(treeOf(compiled).header.nrEntryTypes, 2);
+}
+
+TEST(AsnAnnotate, NamingOptionsAreRaised)
+{
+  AsnCompiled compiled = compileBody("A ::= NULL --$ option=\"tpref=x_Y\"");
+  StxTree &tree = treeOf(compiled);
+  const TNode &node = defOf(tree, "A");
+  EXPECT_THAT(linesOf(tree, node.firstTed, node.lastTed),
+              ElementsAre("3 -TPREF=x_Y"));
 }

@@ -274,3 +274,13 @@ TEST(AsnGenConstraintRecord, Errors)
   for (const ConstraintErrorCase &row : cases)
     EXPECT_EQ(errorOf(row.body), row.error) << row.body;
 }
+
+TEST(AsnGenConstraint, UnionWithAnOperandWithoutBounds)
+{
+  // Nothing is known of what EXCEPT leaves, so nothing of the union.
+  AsnCompiled compiled = compileBody("A ::= INTEGER (0..5 EXCEPT 2 | 9)\n"
+                                     "B ::= INTEGER (0..5 | 9)");
+  const StxTree &tree = treeOf(compiled);
+  EXPECT_EQ(boundsOf(tree, typeNamed(tree, "A")), "min..max");
+  EXPECT_EQ(boundsOf(tree, typeNamed(tree, "B")), "0..9");
+}

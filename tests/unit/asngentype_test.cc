@@ -475,3 +475,17 @@ TEST(AsnGenType, Errors)
   for (const TypeErrorCase &row : cases)
     EXPECT_EQ(errorOf(row.body), row.error) << row.body;
 }
+
+TEST(AsnGenType, SelectionOnACircleIsRecursive)
+{
+  AsnCompiled compiled = compileBody("A ::= CHOICE { l SEQUENCE OF S }\n"
+                                     "S ::= SEQUENCE { s l < A, t BOOLEAN }");
+  StxTree &tree = treeOf(compiled);
+  int32_t structure = typeNamed(tree, "S");
+  auto isRecursive = [&](int32_t node) {
+    return (stxTypeAt(tree, node).nodeFlags & NF_RECURSIVE) != 0;
+  };
+  EXPECT_TRUE(isRecursive(structure));
+  EXPECT_TRUE(isRecursive(compNamed(tree, structure, "s")));
+  EXPECT_FALSE(isRecursive(compNamed(tree, structure, "t")));
+}

@@ -82,6 +82,9 @@ static Endpoint joinedEndpoint(EndRun run, const SubRec &sub)
   Endpoint joined;
   for (int32_t operand = sub.operand1; operand != 0;) {
     Endpoint end = subEndpoint(run, operand);
+    // What one operand of a union of numbers allows is not known.
+    if (!end && sub.kind == SUB_UNION && !run.isSize)
+      return infinity(run.isUpper);
     if (end && (!joined || (takeGreater ? *end > *joined : *end < *joined)))
       joined = end;
     operand = stxSubAt(treeOf(run.c, run.module), operand).nextSub;

@@ -190,8 +190,8 @@ void representType(Compilation &c, int module, int32_t index)
     node.valueField = integerField(options, boundsOf(node));
     break;
   case TYP_ENUM:
-    node.valueField = integerField(
-        options, itemBounds(treeOf(c, module), node.namedNumbers));
+    node.valueField =
+        integerField(options, itemBounds(treeOf(c, module), node.namedNumbers));
     break;
   case TYP_REAL:
     node.valueField = chosen(options.realSize, VF_REAL64);
