@@ -327,9 +327,8 @@ static void markRecursion(Compilation &c)
     for (size_t i = 0; i < module.tree.tNodes.size(); ++i) {
       TNode &node = module.tree.tNodes[i];
       bool isDefinition = std::abs(node.compStatus) == TCS_HEADER;
-      bool isReference = node.mainType == TYP_SYNONYM ||
-                         node.mainType == TYP_SELECTION ||
-                         node.mainType == TYP_FIELDLIST;
+      bool isReference =
+          node.mainType == TYP_SYNONYM || node.mainType == TYP_SELECTION;
       if (onCircle[base + i] && (isDefinition || isReference))
         node.nodeFlags |= NF_RECURSIVE;
     }
