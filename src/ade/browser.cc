@@ -19,6 +19,8 @@
 #include "base/diag.h"
 #include "base/strings.h"
 #include "cbet/symboltable.h"
+#include "model/typeiter.h"
+#include "model/typequery.h"
 #include "store/module.h"
 #include <map>
 #include <string>
@@ -117,6 +119,75 @@ AdeBrowserNode *adeBrowserFindOrCreateModuleNode(const AsnModule &module,
   if (g_adeBrowserTree)
     adeBrowserInsertSubNode(*g_adeBrowserTree, node, 1);
   return node;
+}
+
+// Place of a definition: its module and line.
+static AdeBrowserNode *nodeOfType(const AsnType &type, const char *name,
+                                  const char *kind, const char *extra1,
+                                  const char *extra2)
+{
+  std::string directory, file;
+  const AsnModule &module = *getModuleOfType(type);
+  getModuleDirectory(directory, nullptr, module, nullptr);
+  getModuleFileName(file, nullptr, module, nullptr);
+  return adeBrowserNewNode(name, directory.c_str(), file.c_str(),
+                           getTypeDefinitionLine(type), kind, extra1, extra2);
+}
+
+static std::string &typeNodeName(std::string &name, const AsnType &type)
+{
+  return convertUnderscores(getTypeRef(name, nullptr, type, nullptr));
+}
+
+// Arguments and result of the visit of a base in another module.
+static struct ForeignBase {
+  const char *name = nullptr;
+  const char *kind = nullptr;
+  const char *extra1 = nullptr;
+  const char *extra2 = nullptr;
+  AdeBrowserNode *node = nullptr;
+} foreignBase;
+
+static void nodeOfForeignBase(AsnType &base)
+{
+  ForeignBase &f = foreignBase;
+  f.node = nodeOfType(base, f.name, f.kind, f.extra1, f.extra2);
+}
+
+AdeBrowserNode *adeBrowserNewTypeNode(AsnType &type, const char *kind,
+                                      const char *extra1, const char *extra2)
+{
+  std::string name;
+  typeNodeName(name, type);
+  foreignBase = {name.c_str(), kind, extra1, extra2, nullptr};
+  if (!isBaseTypeInCurrentModule(type))
+    forTypeDefinedInAnotherModule(type, nodeOfForeignBase);
+  if (foreignBase.node)
+    return foreignBase.node;
+  return nodeOfType(type, name.c_str(), kind, extra1, extra2);
+}
+
+void adeBrowserSelectTypeNode(AsnType &type)
+{
+  if (!adeIsActive() || !g_adeModuleNode)
+    return;
+  std::string name;
+  g_adeTypeNode =
+      adeBrowserFindSubNode(*g_adeModuleNode, typeNodeName(name, type).c_str());
+  if (g_adeTypeNode)
+    return;
+  g_adeTypeNode = adeBrowserNewTypeNode(type, "ASN.1 type", nullptr, nullptr);
+  adeBrowserInsertSubNode(*g_adeModuleNode, g_adeTypeNode, 1);
+}
+
+void adeBrowserAddFunctionNode(const char *name, const char *directory,
+                               const char *file, int32_t line, const char *kind)
+{
+  if (!adeIsActive() || !g_adeTypeNode)
+    return;
+  AdeBrowserNode *node =
+      adeBrowserNewNode(name, directory, file, line, kind, nullptr, nullptr);
+  adeBrowserInsertSubNode(*g_adeTypeNode, node, 0);
 }
 
 // Puts the node between `before` and its predecessor; null: behind the last.

@@ -8,6 +8,7 @@
 
 struct AdeBrowserIndex;
 struct AsnModule;
+struct AsnType;
 struct SymbolTable;
 
 // From a free-list cache. Texts are indexes in `adeBrowserSymbolTable`, 0 for
@@ -57,6 +58,11 @@ AdeBrowserNode *adeBrowserNewProjectTree(const char *kind, const char *extra1,
 AdeBrowserNode *adeBrowserNewModuleNode(const AsnModule &module,
                                         const char *kind, const char *extra1,
                                         const char *extra2);
+
+// A node for the definition of a type, "_" in its name turned to "-". If its
+// base lies in another module the place is that of the base.
+AdeBrowserNode *adeBrowserNewTypeNode(AsnType &type, const char *kind,
+                                      const char *extra1, const char *extra2);
 
 // The child of `g_adeBrowserTree` with that module's name; if there is none a
 // new one, inserted sorted.

@@ -153,6 +153,13 @@ char *i64tostr(sint64 value, char *buffer, size_t size)
   return buffer;
 }
 
+std::string i64text(sint64 value)
+{
+  // Digits of 64 bits, a sign and the terminator.
+  char digits[24];
+  return i64tostr(value, digits, sizeof digits);
+}
+
 sint64 &i64add(sint64 &destination, sint64 a, sint64 b)
 {
   return setBits(destination, bitsOf(a) + bitsOf(b));

@@ -1,6 +1,7 @@
 #pragma once
 #include <cstddef>
 #include <cstdint>
+#include <string>
 
 // Signed 64-bit numbers of values and constraints: a pair of words, as in
 // the tree format (high word first). Used only through these functions,
@@ -37,6 +38,9 @@ bool i64strtosint64(const char *text, sint64 &destination);
 // The value in decimal in `buffer`, which is returned; null if the buffer is
 // null or too small (`size` counts the terminator).
 char *i64tostr(sint64 value, char *buffer, size_t size);
+
+// The decimal number as a string.
+std::string i64text(sint64 value);
 
 sint64 &i64add(sint64 &destination, sint64 a, sint64 b);
 sint64 &i64addl(sint64 &destination, sint64 a, int32_t b);

@@ -9,6 +9,12 @@
 // Longest file name that is built here, suffix included.
 constexpr size_t maxFileName = 1024;
 
+std::string &between(std::string &text, const char *prefix,
+                     const std::string &middle, const char *suffix)
+{
+  return text = orEmpty(prefix) + middle + orEmpty(suffix);
+}
+
 std::string formatTextV(const char *format, va_list arguments)
 {
   va_list again;

@@ -13,6 +13,11 @@ inline const char *orEmpty(const char *text)
   return text ? text : "";
 }
 
+// Stores `prefix`, `middle` and `suffix`; the outer two may be null. Any of
+// them may be what `text` holds.
+std::string &between(std::string &text, const char *prefix,
+                     const std::string &middle, const char *suffix);
+
 // The text that printf would print.
 [[gnu::format(printf, 1, 2)]] std::string formatText(const char *format, ...);
 std::string formatTextV(const char *format, va_list arguments);

@@ -19,6 +19,7 @@ struct BEObjMetaRec;
 struct BEObjSetMetaRec;
 struct BETypMetaRec;
 struct BEValMetaRec;
+struct ExtensionInfo;
 struct ModRec;
 struct TedRange;
 
@@ -89,6 +90,52 @@ int getMetaDecodingCatchDefaultErrors(const AsnModule &module);
 int getMetaDecodingFillDefaultValues(const AsnModule &module);
 int getMetaDefaultValuesWarningDisable(const AsnModule &module);
 
+// The FUNC option of a type: the user's function and its further arguments;
+// null without a record or without the text. (driver/typemeta.cc)
+const char *getMetaFuncId(const AsnType &type);
+const char *getMetaFuncOption(const AsnType &type);
+
+// --- driver/: extension information of types (per/extinfo.h), worked out
+// once for a view that has a meta record. (driver/extmeta.cc)
+
+ExtensionInfo getExtensionInfo(AsnType &type);
+ExtensionInfo getExtensionAdditionGroupInfo(AsnType &group);
+
+// Bit of an optional component in the preamble of its SEQUENCE, resp. of its
+// addition group, the last one having 0; -1 for anything else.
+int32_t getTypeCompOptFieldIndex(const AsnType &comp);
+
+// Bit of an addition in the bitmap of its SEQUENCE, the last one having 0; -1
+// if that has no marker. The component must come from a walk forward.
+int32_t getTypeCompExtensionAddFieldIndex(const AsnType &comp);
+
+// Place among the root components, resp. the additions, in the order of tags;
+// -1, with warnings once a run, in a module without automatic tags.
+int32_t getCompCanonicalOrder(const AsnType &comp);
+
+// An optional, resp. mandatory component; a group is mandatory if one of its
+// members is.
+bool isOptionalExtensionAdditionComponentOrGroup(AsnType &comp);
+bool isMandatoryExtensionAdditionComponentOrGroup(AsnType &comp);
+
+// Which traversal has visited a node (driver/meta.cc): a stamp below these
+// has not been reached in the current one. Stamps of loading lie below and
+// above all.
+extern int stampGHD;  // what the type refers to is handled
+extern int stampGIP;  // in progress
+extern int stampGAD;  // all is done
+
+// At the start of each module; the nodes of earlier modules keep theirs.
+void resetStamps();
+
+// At the start of each traversal.
+void initStamps();
+
+// The same two, for whoever stamps type nodes alone: there is one set of
+// stamps.
+void resetTypeStamps();
+void initTypeStamps();
+
 // --- ade/: side files for an IDE. (ade/summary.cc)
 
 // True once ADE-PREFIX is set.
@@ -98,6 +145,17 @@ bool adeIsActive();
 // applies one and is false for an unknown name or a refused value.
 bool adeIsADEOption(const char *text);
 bool adeOptionOK(const char *option);
+
+// The tree of what a run generated (ade/browser.cc): makes the type's node
+// below that of the current module, which is made if there is none, the
+// current one; nothing while the side files are not active.
+void adeBrowserSelectTypeNode(AsnType &type);
+
+// Adds a function that is written now, below the current type's node; any
+// text may be null. Nothing while the side files are not active.
+void adeBrowserAddFunctionNode(const char *name, const char *directory,
+                               const char *file, int32_t line,
+                               const char *kind);
 
 // Adds a fatal error to the summary; a second entry ends the process with
 // status 2 at once.

@@ -105,13 +105,6 @@ void forEachOpenFile(FileCallBack *callBack)
       callBack(file);
 }
 
-// `middle` between the two others, which may be null.
-static std::string &between(std::string &text, const char *prefix,
-                            const std::string &middle, const char *suffix)
-{
-  return text = orEmpty(prefix) + middle + orEmpty(suffix);
-}
-
 // The file of an index if it has a name, with a prefix if that is needed.
 static const OutFile *namedFile(int file, bool withPrefix)
 {

@@ -2,6 +2,7 @@
 
 #include "cbet/typewarn.h"
 #include "base/diag.h"
+#include "cbet/cnames.h"
 #include "model/typequery.h"
 
 // Where the type stands: in its module, by its reference.
@@ -15,7 +16,7 @@ static std::string locationOf(const AsnType &type)
     return place + getTypeRef(name, "type ", type, nullptr);
   if (isComponentType(type))
     return place + getTypeRef(name, "element ", type, nullptr);
-  return place + getDefTypeId(name, "element ", type, nullptr);
+  return place + cTypeId(name, "element ", type, nullptr);
 }
 
 static void warn(const AsnType &type, const char *text, bool indented)

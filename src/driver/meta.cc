@@ -223,3 +223,13 @@ void initStamps()
 {
   setStamps(stampGAD + 1);
 }
+
+void resetTypeStamps()
+{
+  resetStamps();
+}
+
+void initTypeStamps()
+{
+  initStamps();
+}

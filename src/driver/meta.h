@@ -4,8 +4,8 @@
 #include "store/modrec.h"
 #include <string>
 
-// Meta records: what this back-end keeps beside each module, and the stamps
-// of its traversals. The accessors by module are declared in base/upcalls.h.
+// Meta records: what this back-end keeps beside each module. Stamps and
+// accessors by module are declared in base/upcalls.h.
 
 // The options of the "QUORVEN=" block, of one module.
 struct BEModMetaRec {
@@ -26,15 +26,3 @@ extern CacheBlock *cache__BEModMetaRec;
 
 // Suffix of the IDE's tree file, from the option TREE-FILE-SUFFIX.
 extern std::string g_adeTreeFileSuffix;
-
-// Which traversal has visited a node: a stamp below these has not been
-// reached in the current one. Stamps of loading lie below and above all.
-extern int stampGHD;
-extern int stampGIP;
-extern int stampGAD;
-
-// At the start of each module; the nodes of earlier modules keep theirs.
-void resetStamps();
-
-// At the start of each traversal.
-void initStamps();

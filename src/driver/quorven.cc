@@ -5,6 +5,7 @@
 #include "ade/summary.h"
 #include "base/diag.h"
 #include "cbet/errorformat.h"
+#include "driver/extmeta.h"
 #include "driver/meta.h"
 #include "driver/modfiles.h"
 #include "driver/start.h"
@@ -107,6 +108,7 @@ int quorven_main(int count, char **vector)
 {
   std::set_new_handler(noMemory);
   newString(g_adeTreeFileSuffix, ".apd");
+  initExtMeta();
   cInitCBET(count, vector, "QUORVEN", toolVersion, toolPatchLevel,
             quorvenUsage);
   cSetErrorReportingFunctionFormat("asnPERError (ASNG_F(asnperg) %s);\n");

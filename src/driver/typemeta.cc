@@ -5,6 +5,7 @@
 #include "base/alloc.h"
 #include "base/diag.h"
 #include "base/strings.h"
+#include "cbet/cnames.h"
 #include "cbet/typewarn.h"
 #include "model/typequery.h"
 #include "options/passes.h"
@@ -12,11 +13,65 @@
 
 static CacheBlock *cache__BETypMetaRec;
 
+// Records that were given back. They keep the room of their texts: a record is
+// made for every node that is visited.
+static BETypMetaRec *freeRecords;
+
+static BETypMetaRec *takeRecord()
+{
+  BETypMetaRec *record = freeRecords;
+  if (!record)
+    return cacheNew<BETypMetaRec>(cache__BETypMetaRec);
+  freeRecords = record->nextFree;
+  record->compId.clear();
+  record->funcId.clear();
+  record->funcOption.clear();
+  if (record->extensionInfoValid)
+    record->extensionInfo = {};
+  record->extensionInfoValid = 0;
+  return record;
+}
+
+const char *homeTypeId(const AsnType &type)
+{
+  if (cIsPredefinedType(type))
+    return nullptr;
+  switch (getTypeMainType(type)) {
+  case TYP_BITSTR:
+    return "BITSTRING";
+  case TYP_OCTSTR:
+    return "OCTET";
+  case TYP_NUMSTR:
+    return "NUMERICCHAR";
+  case TYP_PRISTR:
+    return "PRINTABLECHAR";
+  case TYP_TELSTR:
+    return "T61CHAR";
+  case TYP_VIDSTR:
+    return "VIDEOTEXCHAR";
+  case TYP_VISSTR:
+    return "VISIBLECHAR";
+  case TYP_IA5STR:
+    return "IA5CHAR";
+  case TYP_GRASTR:
+    return "GRAPHICCHAR";
+  case TYP_GENSTR:
+    return "GENERALCHAR";
+  case TYP_BMPSTR:
+    return "ASN_BMPCHAR";
+  default:
+    return nullptr;
+  }
+}
+
 BETypMetaRec *newBETypMetaRec(const AsnType &type)
 {
   if (isPartialTypeInfo(type))
     return nullptr;
-  BETypMetaRec *record = cacheNew<BETypMetaRec>(cache__BETypMetaRec);
+  BETypMetaRec *record = takeRecord();
+  cTypeId(record->typeId, nullptr, type, nullptr);
+  cBaseTypeId(record->baseTypeId, nullptr, type, nullptr);
+  record->homeTypeId = orEmpty(homeTypeId(type));
   if (isTypeExtensionmarker(type))
     record->compId = "extensionmarker";
   else if (isComponentType(type))
@@ -26,7 +81,10 @@ BETypMetaRec *newBETypMetaRec(const AsnType &type)
 
 void deleteBETypMetaRec(AsnType &, BETypMetaRec *record)
 {
-  cacheDelete(record, cache__BETypMetaRec);
+  if (!record)
+    return;
+  record->nextFree = freeRecords;
+  freeRecords = record;
 }
 
 static const char *textOrNull(const AsnType &type,
@@ -35,6 +93,21 @@ static const char *textOrNull(const AsnType &type,
   const BETypMetaRec *record = getBETypMetaRec(type);
   return record && !(record->*member).empty() ? (record->*member).c_str()
                                               : nullptr;
+}
+
+const char *getMetaTypeId(const AsnType &type)
+{
+  return textOrNull(type, &BETypMetaRec::typeId);
+}
+
+const char *getMetaBaseTypeId(const AsnType &type)
+{
+  return textOrNull(type, &BETypMetaRec::baseTypeId);
+}
+
+const char *getMetaHomeTypeId(const AsnType &type)
+{
+  return textOrNull(type, &BETypMetaRec::homeTypeId);
 }
 
 const char *getMetaCompId(const AsnType &type)

@@ -614,22 +614,22 @@ int forWithComponentsConstraint(AsnType &type, AsnConstraint &constraint,
   return 0;
 }
 
-// Fills the view from the record that names the component; false if none
-// does.
-static bool findNamedComp(const AsnConstraint &constraint, AsnType &type,
-                          const AsnType &comp, AsnConstraint &found)
+// The record that names the component; 0 if none does. What is said of the
+// others is not looked at, so they are no visits.
+static int32_t findNamedComp(const AsnConstraint &constraint,
+                             const AsnType &comp)
 {
   ModRec *module = constraint.module;
   ChainGuard guard(module, REC_SUB);
   for (int32_t next = constraint.rec.operand1; next != 0;
-       next = found.rec.nextSub) {
+       next = subRec.nextSub) {
     guard.step();
-    initAsnConstraint(found, type, module, next);
-    if (found.rec.compNode == comp.compRecNr &&
-        getModPtr(module, found.rec.compModule) == comp.compModRec)
-      return true;
+    readRec(module, REC_SUB, next);
+    if (subRec.compNode == comp.compRecNr &&
+        getModPtr(module, subRec.compModule) == comp.compModRec)
+      return next;
   }
-  return false;
+  return 0;
 }
 
 void constrainComponent(AsnType &, AsnType &comp, int compNbr)
@@ -639,7 +639,8 @@ void constrainComponent(AsnType &, AsnType &comp, int compNbr)
   bool fullSpec = tops.constraint->rec.subFlags & SF_FULL_SPEC;
   OwnedConstraint owned;
   AsnConstraint &sub = *owned.constraint;
-  if (findNamedComp(*tops.constraint, type, comp, sub)) {
+  if (int32_t named = findNamedComp(*tops.constraint, comp)) {
+    initAsnConstraint(sub, type, tops.constraint->module, named);
     if (fullSpec && isOptionalTypeComp(comp) && !isPresenceConstraint(sub))
       sub.rec.subFlags |= SF_PRESENT;
   } else {

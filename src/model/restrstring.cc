@@ -88,22 +88,35 @@ static void appendUnits(std::basic_string<To> &text,
       text += static_cast<To>(static_cast<std::make_unsigned_t<From>>(unit));
 }
 
-template <class C>
-static void addUnits(SegmentRun &run, std::basic_string_view<C> units)
+// Calls `f` with the text of the string's width.
+template <class F>
+static void withText(RestrCharStri &stri, F f)
 {
-  run.length += static_cast<int64_t>(units.size());
-  if (run.length > std::numeric_limits<int32_t>::max())
-    treeInconsistent(run.guard.module);
+  if (stri.mainType == TYP_BMPSTR)
+    f(stri.text16);
+  else if (stri.mainType == TYP_UNISTR)
+    f(stri.text32);
+  else
+    f(stri.text);
+}
+
+template <class C>
+static void appendLeaf(SegmentRun &run, std::basic_string_view<C> units)
+{
   if (!run.out)
     return;
-  switch (run.out->mainType) {
-  case TYP_BMPSTR:
-    return appendUnits(run.out->text16, units);
-  case TYP_UNISTR:
-    return appendUnits(run.out->text32, units);
-  default:
-    return appendUnits(run.out->text, units);
-  }
+  withText(*run.out, [&](auto &text) { appendUnits(text, units); });
+}
+
+// Characters count by the units that the tree has, a zero and what is behind
+// it included, though a zero ends what can be appended.
+static void countLeaf(SegmentRun &run, ModRec *module, const VNode &leaf,
+                      int kind)
+{
+  int32_t stated = payloadLength(leaf);
+  run.length += std::min(stated, striUnits(module, kind, payloadStri(leaf)));
+  if (run.length > std::numeric_limits<int32_t>::max())
+    treeInconsistent(run.guard.module);
 }
 
 // The leaf's own main type tells where its string is: a list may mix widths.
@@ -114,11 +127,14 @@ static void addLeaf(SegmentRun &run, ModRec *module, const VNode &leaf)
   int32_t stri = payloadStri(leaf);
   switch (leaf.mainType) {
   case TYP_BMPSTR:
-    return addUnits(run, unitsOf(leaf, getStri16(module, stri)));
+    countLeaf(run, module, leaf, REC_STRI16);
+    return appendLeaf(run, unitsOf(leaf, getStri16(module, stri)));
   case TYP_UNISTR:
-    return addUnits(run, unitsOf(leaf, getStri32(module, stri)));
+    countLeaf(run, module, leaf, REC_STRI32);
+    return appendLeaf(run, unitsOf(leaf, getStri32(module, stri)));
   default:
-    return addUnits(run, unitsOf(leaf, getStri(module, stri)));
+    countLeaf(run, module, leaf, REC_STRI);
+    return appendLeaf(run, unitsOf(leaf, getStri(module, stri)));
   }
 }
 
@@ -163,17 +179,6 @@ static int32_t countSegments(const PlacedValue &value)
   return static_cast<int32_t>(run.length);
 }
 
-static void reserveText(RestrCharStri &stri)
-{
-  size_t length = static_cast<size_t>(stri.length);
-  if (stri.mainType == TYP_BMPSTR)
-    stri.text16.reserve(length);
-  else if (stri.mainType == TYP_UNISTR)
-    stri.text32.reserve(length);
-  else
-    stri.text.reserve(length);
-}
-
 void makeRestrCharStri(ModRec *module, const VNode &vnodeImage,
                        RestrCharStri &out)
 {
@@ -182,9 +187,12 @@ void makeRestrCharStri(ModRec *module, const VNode &vnodeImage,
   out = RestrCharStri{};
   out.mainType = value.node.mainType;
   out.length = countSegments(value);
-  reserveText(out);
+  size_t length = static_cast<size_t>(out.length);
+  withText(out, [&](auto &text) { text.reserve(length); });
   SegmentRun run(value.module, &out);
   makeRestrCharStriSeg(value, run);
+  // Where a zero has ended a segment early.
+  withText(out, [&](auto &text) { text.resize(length); });
 }
 
 void delRestrCharStri(RestrCharStri &out)

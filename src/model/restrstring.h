@@ -10,7 +10,9 @@
 // end the run with fatal error 15 on a value that contains itself.
 
 // A whole string. The text is in `text16` for the main type BMPString, in
-// `text32` for UniversalString and else in `text`; the other two are empty.
+// `text32` for UniversalString and else in `text`; the other two are empty. A
+// character that is a zero counts and ends its piece: what the text lacks
+// then is made up for by zeros at its end.
 struct RestrCharStri {
   uint32_t mainType = 0;  // of the value
   int32_t length = 0;     // in characters

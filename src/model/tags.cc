@@ -160,11 +160,13 @@ static const DynaNode *outerTag(const AsnType &type, const DynaNode *node)
 
 void forTags(AsnType &type, TagCallBack *cb, int positions, bool reverse)
 {
+  int count = type.nrTags;
+  // The only tag is the innermost one as well. Asked ahead of everything.
+  if (count == 1 && positions == (TAG_OUTERMOST | TAG_MIDDLE))
+    return;
   if (!cb)
     fatalError(FATAL_NO_CALL_BACK);
-  int count = type.nrTags;
-  if (count == 0 ||
-      (count == 1 && positions == (TAG_OUTERMOST | TAG_MIDDLE)))
+  if (count == 0)
     return;
   const DynaNode *node = type.tagsOutermost;
   if (reverse)
@@ -256,12 +258,6 @@ static const char *tagClassName(int tagClass)
   static const char *const names[] = {"TAG_UNI", "TAG_APP", "TAG_CTX",
                                       "TAG_PRV"};
   return tagClass >= TAG_UNI && tagClass <= TAG_PRV ? names[tagClass] : "";
-}
-
-static std::string &between(std::string &text, const char *prefix,
-                            const std::string &middle, const char *suffix)
-{
-  return text = orEmpty(prefix) + middle + orEmpty(suffix);
 }
 
 std::string &getTagClassStri(std::string &text, const char *prefix,

@@ -37,8 +37,8 @@ void initSonTags(AsnType *father, AsnType &son, int tagState, int autoTagNr);
 
 // Calls `cb` for the tags at the positions, index 0 being the outermost; one
 // tag alone is outermost and innermost, and nothing is called for it if the
-// positions are the outermost and the middle. A null call-back is fatal error
-// 18.
+// positions are the outermost and the middle, whatever `cb` is. A null
+// call-back is fatal error 18 otherwise.
 void forTags(AsnType &type, TagCallBack *cb, int positions, bool reverse);
 void forEachTag(AsnType &type, TagCallBack *cb);
 void forEachTagRevOrd(AsnType &type, TagCallBack *cb);

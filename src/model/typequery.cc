@@ -8,12 +8,6 @@
 #include <cstdio>
 #include <cstring>
 
-static std::string &between(std::string &text, const char *prefix,
-                            const std::string &middle, const char *suffix)
-{
-  return text = orEmpty(prefix) + middle + orEmpty(suffix);
-}
-
 // The printed name of a fix record.
 static std::string printed(const FixRec &fix)
 {
@@ -518,7 +512,7 @@ bool isTypeExtensionmarkerComp(const AsnType &type)
 
 int32_t getTypeExtensionmarkerCompNbr(AsnType &type)
 {
-  if (type.extMarkerCompNbr == -1 && isExtensible(type))
+  if (type.extMarkerCompNbr == -1 && isTypeExtensionmarkerComp(type))
     forEachTypeComp(type, [](AsnType &, AsnType &, int) {});
   return type.extMarkerCompNbr;
 }
@@ -534,19 +528,21 @@ bool isExtensionRootComponent(AsnType *father, const AsnType &comp)
 {
   if (!father)
     return false;
-  return !isExtensible(*father) ||
+  // The bit of a list tells of its size: it has no marker.
+  return !isTypeExtensionmarkerComp(*father) ||
          comp.compNbr < getTypeExtensionmarkerCompNbr(*father);
 }
 
 bool isExtensionAdditionComponent(AsnType *father, const AsnType &comp)
 {
-  return father && isExtensible(*father) &&
+  return father && isTypeExtensionmarkerComp(*father) &&
+         !isTypeExtensionmarker(comp) &&
          comp.compNbr > getTypeExtensionmarkerCompNbr(*father);
 }
 
 bool isFirstExtensionAdditionComponent(AsnType *father, const AsnType &comp)
 {
-  return father && isExtensible(*father) &&
+  return father && isTypeExtensionmarkerComp(*father) &&
          comp.compNbr == getTypeExtensionmarkerCompNbr(*father) + 1;
 }
 

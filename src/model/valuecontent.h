@@ -22,7 +22,8 @@ bool makeBitString(const AsnValue &value, std::string &text, int32_t &length);
 // A string in binary or hexadecimal notation as an even number of hexadecimal
 // digits; `length` counts octets.
 bool makeOctetString(const AsnValue &value, std::string &text, int32_t &length);
-// A string of 8-bit characters.
+// A string of 8-bit characters, which ends early at one that is a zero, with
+// the length of the whole.
 bool makeCharacterString(const AsnValue &value, std::string &text,
                          int32_t &length);
 

@@ -134,10 +134,17 @@ struct EnumArray {
   int addCount = -1;  // -1: no marker
 };
 
-static int32_t enumNumber(const AsnType &type, const AsnValue &value)
+// Warns in the module that has the item.
+static int32_t enumNumber(const AsnValue &value)
 {
-  return int64ToInt32(int64Value(value), type.homeMod, value.base.line,
+  return int64ToInt32(int64Value(value), value.homeMod, value.base.line,
                       "Too large enumerated item");
+}
+
+// Not by subtraction: the limits are far apart.
+static bool int32cmp(int32_t a, int32_t b)
+{
+  return a < b;
 }
 
 static EnumArray makeEnumArray(AsnType &type)
@@ -148,12 +155,12 @@ static EnumArray makeEnumArray(AsnType &type)
       array.addCount = std::max(array.addCount, 0);
       return;
     }
-    array.numbers.push_back(enumNumber(type, value));
+    array.numbers.push_back(enumNumber(value));
     ++(array.addCount < 0 ? array.rootCount : array.addCount);
   });
   auto additions = array.numbers.begin() + array.rootCount;
-  std::sort(array.numbers.begin(), additions);
-  std::sort(additions, array.numbers.end());
+  std::sort(array.numbers.begin(), additions, int32cmp);
+  std::sort(additions, array.numbers.end(), int32cmp);
   return array;
 }
 

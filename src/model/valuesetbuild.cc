@@ -349,36 +349,55 @@ static IntegerPair sizePair(const AsnType &type, const IntegerValueSetSeg &seg)
   return {to32(type, seg.lower, sizeLower), to32(type, seg.upper, sizeUpper)};
 }
 
-int forIntegerValueSet(AsnType &type, IntegerPairCallBack *cb)
+static Int64Pair int64Pair(const IntegerValueSetSeg &seg)
+{
+  return {seg.lower, seg.upper};
+}
+
+// Calls with the pair that `pairOf` makes of each segment; gives their count.
+template <class Pair, class F>
+static int forEachSeg(AsnType &type, const IntegerValueSet &set,
+                      void (*cb)(AsnType &, const Pair &, int), F pairOf)
+{
+  int count = 0;
+  for (const IntegerValueSetSeg *seg = set.first; seg; seg = seg->next)
+    cb(type, pairOf(*seg), count++);
+  return count;
+}
+
+template <class Pair, class F>
+static int forEachSegOfValues(AsnType &type,
+                              void (*cb)(AsnType &, const Pair &, int),
+                              F pairOf)
 {
   requireCallBack(cb);
-  if (!hasIntegerSet(type))
-    return 0;
-  int count = 0;
-  for (const IntegerValueSetSeg *seg = integerSet(type).first; seg;
-       seg = seg->next)
-    cb(type, integerPair(type, *seg), count++);
-  return count;
+  return hasIntegerSet(type) ? forEachSeg(type, integerSet(type), cb, pairOf)
+                             : 0;
+}
+
+int forIntegerValueSet(AsnType &type, IntegerPairCallBack *cb)
+{
+  return forEachSegOfValues(type, cb, [&](const IntegerValueSetSeg &seg) {
+    return integerPair(type, seg);
+  });
 }
 
 int forInt64ValueSet(AsnType &type, Int64PairCallBack *cb)
 {
-  requireCallBack(cb);
-  if (!hasIntegerSet(type))
-    return 0;
-  int count = 0;
-  for (const IntegerValueSetSeg *seg = integerSet(type).first; seg;
-       seg = seg->next)
-    cb(type, {seg->lower, seg->upper}, count++);
-  return count;
+  return forEachSegOfValues(type, cb, int64Pair);
 }
 
-// The set of one SIZE constraint; empty for anything else.
-static void buildSizes(FreshSet &sizes, AsnType &type,
-                       AsnConstraint &constraint)
+// The segments of one SIZE constraint; none for anything else.
+template <class Pair, class F>
+static int forEachSegOfSize(AsnType &type, AsnConstraint &constraint,
+                            void (*cb)(AsnType &, const Pair &, int), F pairOf)
 {
-  if (hasSizes(type) && constraint.rec.kind == SUB_SIZE)
-    buildInto(sizes.set, type, constraint);
+  requireCallBack(cb);
+  if (!hasSizes(type) || constraint.rec.kind != SUB_SIZE)
+    return 0;
+  FreshSet sizes;
+  buildInto(sizes.set, type, constraint);
+  return forEachSeg(type, sizes.set, cb, pairOf);
 }
 
 int forSizeConstraintValueSet(AsnType &type, AsnConstraint &constraint,
@@ -387,24 +406,16 @@ int forSizeConstraintValueSet(AsnType &type, AsnConstraint &constraint,
   requireCallBack(cb);
   if (!type.valueSet || !type.valueSet->first)
     return 0;
-  FreshSet sizes;
-  buildSizes(sizes, type, constraint);
-  int count = 0;
-  for (const IntegerValueSetSeg *seg = sizes.set.first; seg; seg = seg->next)
-    cb(type, sizePair(type, *type.valueSet->first), count++);
-  return count;
+  return forEachSegOfSize(type, constraint, cb,
+                          [&](const IntegerValueSetSeg &) {
+                            return sizePair(type, *type.valueSet->first);
+                          });
 }
 
 int forInt64SizeConstraintValueSet(AsnType &type, AsnConstraint &constraint,
                                    Int64PairCallBack *cb)
 {
-  requireCallBack(cb);
-  FreshSet sizes;
-  buildSizes(sizes, type, constraint);
-  int count = 0;
-  for (const IntegerValueSetSeg *seg = sizes.set.first; seg; seg = seg->next)
-    cb(type, {seg->lower, seg->upper}, count++);
-  return count;
+  return forEachSegOfSize(type, constraint, cb, int64Pair);
 }
 
 void getSizeConstraintEndpoints(AsnType &type, int32_t &lower, int32_t &upper,

@@ -7,12 +7,6 @@
 #include "model/valuecontent.h"
 #include "options/fixrec.h"
 
-static std::string &between(std::string &text, const char *prefix,
-                            const std::string &middle, const char *suffix)
-{
-  return text = orEmpty(prefix) + middle + orEmpty(suffix);
-}
-
 // --- names ------------------------------------------------------------------
 
 std::string &getValueRef(std::string &text, const char *prefix,
@@ -143,5 +137,6 @@ std::string &characterStringValueStri(std::string &text, const char *prefix,
   std::string characters;
   int32_t length;
   makeCharacterString(value, characters, length);
-  return between(text, prefix, characters, suffix);
+  // Up to a zero among them.
+  return between(text, prefix, characters.c_str(), suffix);
 }

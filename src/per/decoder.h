@@ -2,5 +2,6 @@
 
 struct AsnModule;
 
-// Writes the decoder and skip functions of a module and their prototypes.
-void generatePERDecodingFunctions(AsnModule &module);
+// Writes the decoder and ignore functions of a module and their prototypes;
+// gives the number of types passed.
+int generatePERDecodingFunctions(AsnModule &module);

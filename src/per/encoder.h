@@ -2,5 +2,6 @@
 
 struct AsnModule;
 
-// Writes the encoder functions of a module and their prototypes.
-void generatePEREncodingFunctions(AsnModule &module);
+// Writes the encoder functions of a module and their prototypes; gives the
+// number of types passed.
+int generatePEREncodingFunctions(AsnModule &module);

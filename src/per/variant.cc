@@ -13,3 +13,17 @@ int perGetEncodingVariant()
 {
   return glbEncodingVariant;
 }
+
+const char *perEncodingVariantTail()
+{
+  switch (glbEncodingVariant) {
+  case 0:
+    return "ASN_PER_BASIC_ALIGNED);\n";
+  case 1:
+    return "ASN_PER_BASIC_UNALIGNED);\n";
+  case 2:
+    return " ASN_PER_UNKNOWN_VARIANT);\n";
+  default:
+    return "";
+  }
+}

@@ -333,46 +333,39 @@ void forEachExportingModule(AsnModule &module, ModuleCallBack *f)
 
 // --- queries ----------------------------------------------------------------
 
-static std::string &between(std::string &text, const char *prefix,
-                            const char *middle, const char *suffix)
-{
-  std::string value = orEmpty(prefix);
-  value += orEmpty(middle);
-  value += orEmpty(suffix);
-  return text = value;
-}
-
 std::string &getModuleRef(std::string &text, const char *prefix,
                           const AsnModule &module, const char *suffix)
 {
-  return between(text, prefix, module.rec->moduleName, suffix);
+  return between(text, prefix, orEmpty(module.rec->moduleName), suffix);
 }
 
 std::string &getModulePrefix(std::string &text, const char *prefix,
                              const AsnModule &module, const char *suffix)
 {
-  return between(text, prefix, module.rec->generationPrefix, suffix);
+  return between(text, prefix, orEmpty(module.rec->generationPrefix), suffix);
 }
 
 std::string &getModuleDirectory(std::string &text, const char *prefix,
                                 const AsnModule &module, const char *suffix)
 {
-  return between(text, prefix, module.rec->options.sourceDirectory, suffix);
+  return between(text, prefix, orEmpty(module.rec->options.sourceDirectory),
+                 suffix);
 }
 
 std::string &getModuleFileName(std::string &text, const char *prefix,
                                const AsnModule &module, const char *suffix)
 {
-  return between(text, prefix, module.rec->options.sourceFileName, suffix);
+  return between(text, prefix, orEmpty(module.rec->options.sourceFileName),
+                 suffix);
 }
 
 std::string &getModuleFilePath(std::string &text, const char *prefix,
                                const AsnModule &module, const char *suffix)
 {
   const GlobalOptions &options = module.rec->options;
-  std::string path;
-  between(path, options.sourceDirectory, options.sourceFileName, nullptr);
-  return between(text, prefix, path.c_str(), suffix);
+  std::string path = orEmpty(options.sourceDirectory);
+  path += orEmpty(options.sourceFileName);
+  return between(text, prefix, path, suffix);
 }
 
 BEModMetaRec *getBEModMetaRec(const AsnModule &module)

@@ -30,12 +30,19 @@ struct StriIndex {
 // in the table as well: strings are mostly looked up in the order of a file.
 size_t addressHash(const void *address);
 
+// A string that a zero inside ends early, with the units that its tree states.
+struct CutStri {
+  int32_t index;
+  int32_t units;  // without the terminator
+};
+
 // The strings of one width of one module: by index, and back. The way back
 // gives the last of several equal strings.
 template <class C>
 struct StriSection {
   std::vector<const C *> strings;
   StriIndex cache;
+  std::vector<CutStri> cut;  // by ascending index
 
   // The index of an interned string, 0 if it isn't there.
   int32_t find(const C *interned) const

@@ -323,7 +323,10 @@ static bool readStris(StriSection<C> &section, int kind, int32_t count)
     if (units.back() != 0)
       return false;
     // An inner zero ends the string.
-    section.append(internUnits(units.c_str()));
+    std::basic_string_view<C> text = units.c_str();
+    int32_t index = section.append(internUnits(text));
+    if (text.size() + 1 < length)
+      section.cut.push_back({index, static_cast<int32_t>(length) - 1});
   }
   return true;
 }
@@ -603,6 +606,30 @@ const char32_t *getStri32(ModRec *module, int32_t index)
 const char *getStriOrEmpty(ModRec *module, int32_t index)
 {
   return index == 0 ? "" : getStri(module, index);
+}
+
+template <class C>
+static int32_t unitsInSection(const StriSection<C> &section, int32_t index)
+{
+  auto isBefore = [](const CutStri &cut, int32_t i) { return cut.index < i; };
+  auto cut =
+      std::lower_bound(section.cut.begin(), section.cut.end(), index, isBefore);
+  if (cut != section.cut.end() && cut->index == index)
+    return cut->units;
+  const C *text = section.strings[static_cast<size_t>(index) - 1];
+  return static_cast<int32_t>(std::basic_string_view<C>(text).size());
+}
+
+int32_t striUnits(ModRec *module, int kind, int32_t index)
+{
+  if (index == emptyStriIndex)
+    return 0;
+  index = striPlace(index);
+  findRPos(module, kind, index);
+  int32_t units = 0;
+  withStris(*module, kind,
+            [&](auto &section) { units = unitsInSection(section, index); });
+  return units;
 }
 
 StriIndex &setupStriCaches(ModRec &module, int kind)

@@ -130,7 +130,11 @@ const char *getStri(ModRec *module, int32_t index);
 const char16_t *getStri16(ModRec *module, int32_t index);
 const char32_t *getStri32(ModRec *module, int32_t index);
 
-// The same, with 0 for the empty string.
+// Units of such a string of a kind as its tree states them, without the
+// terminator: more than can be read of it if there is a zero inside.
+int32_t striUnits(ModRec *module, int kind, int32_t index);
+
+// The same as `getStri`, with 0 for the empty string.
 const char *getStriOrEmpty(ModRec *module, int32_t index);
 
 // The index of a string in the module, appended if it is new; 0, with nothing

@@ -219,6 +219,11 @@ bool findTypeCompById(ModRec *module, int32_t first, const char *name,
   return findTypeComp(module, first, fits);
 }
 
+bool findTypeCompByInd(ModRec *module, int32_t first, int32_t number)
+{
+  return findByInd(module, first, number);
+}
+
 bool findByInd(ModRec *module, int32_t first, int32_t &number)
 {
   auto fits = [&](ModRec *) { return --number == 0; };

@@ -45,6 +45,7 @@ bool findTypeById(ModRec *module, const char *name);
 bool findTypeCompById(ModRec *module, int32_t first, const char *name,
                       int32_t &position);
 
-// A component by number, from 1, COMPONENTS OF entries expanded; what is
-// left of the number afterwards is in `number`.
+// A component by number, from 1, COMPONENTS OF entries expanded; the second
+// leaves in `number` what is left of it afterwards.
+bool findTypeCompByInd(ModRec *module, int32_t first, int32_t number);
 bool findByInd(ModRec *module, int32_t first, int32_t &number);

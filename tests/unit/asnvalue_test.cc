@@ -56,6 +56,29 @@ TEST_F(AsnValues, ViewsComeFromAFreeList)
   delAsnValue(again);
 }
 
+// Each cache gives again what it got last.
+TEST_F(AsnValues, DeletionTakesBackWhatTheViewOwns)
+{
+  int32_t index = integerOf(1);
+  start();
+  readRec(modA, REC_VNODE, index);
+  AsnValue *value = newAsnValue(&mod, &mod);
+  getValuePath(nullptr, *value, FIX_VALUE);
+  AsnType *governor = value->governor;
+  AsnModule *module = governor->mod;
+  BEValMetaRec *record = value->metaRec;
+  delAsnValue(value);
+  AsnType *type = newAsnType(&mod, &mod);
+  EXPECT_EQ(type, governor);
+  AsnModule *other = newAsnModule(*modA);
+  EXPECT_EQ(other, module);
+  BEValMetaRec *again = newBEValMetaRec();
+  EXPECT_EQ(again, record);
+  delAsnType(type);
+  delAsnModule(other);
+  deleteBEValMetaRec(again);
+}
+
 TEST_F(AsnValues, PlainValue)
 {
   int32_t index = integerOf(42, "answer");

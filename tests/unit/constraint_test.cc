@@ -211,6 +211,19 @@ TEST_F(Constraint, AHiddenOneAloneIsNone)
   EXPECT_EQ(seen, "");
 }
 
+// A hidden one of the own node counts if another one follows it.
+TEST_F(Constraint, AHiddenLocalOneAheadOfAnother)
+{
+  int32_t base = type(TYP_INTEGER, sub(SUB_HIDDEN));
+  int32_t record = synonym(base, single(2));
+  load();
+  TestType both(module, record);
+  both->nrLocalConstraints = 2;
+  EXPECT_TRUE(isLocalTypeConstraints(*both));
+  forEachLocalTypeConstraint(*both, showPlain);
+  EXPECT_EQ(seen, "single value<2> ");
+}
+
 TEST_F(Constraint, AHiddenOneIsPassedOverAmongOthers)
 {
   int32_t base = type(TYP_INTEGER, single(1));
@@ -462,6 +475,29 @@ TEST_F(Constraint, ValuesHaveAModuleOfTheirOwn)
   EXPECT_EQ(seen, "1");
 }
 
+// The record that says MIN or MAX tells the module, not the type.
+TEST_F(Constraint, EndsWithoutAValueHaveAModuleOfTheirOwn)
+{
+  TNode far = stxNewTNode(TYP_INTEGER);
+  far.firstConstraint = stxSub(other, stxNewSub(SUB_RANGE));
+  int32_t record = define(stxNewSynonym(stxDefineType(other, "Far", far), 2));
+  load();
+  TestType type(module, record);
+  forEachTypeConstraint(*type, [](AsnType &owner, AsnConstraint *constraint) {
+    forValueRangeConstraint(
+        owner, *constraint,
+        [](AsnType &walking, AsnValue &lower, bool, AsnValue &upper, bool) {
+          for (AsnValue *value : {&lower, &upper}) {
+            EXPECT_EQ(value->mod, value->homeMod);
+            EXPECT_NE(value->mod, walking.mod);
+            seen += value->mod->rec->moduleName;
+          }
+          EXPECT_NE(lower.mod, upper.mod);
+        });
+  });
+  EXPECT_EQ(seen, "NN");
+}
+
 TEST_F(Constraint, ValuesMayBeHiddenOrReferences)
 {
   VNode hidden = stxNewInteger(integer, 12);
@@ -559,6 +595,40 @@ TEST_F(Constraint, SubtypeIsShownWithTheWalkingType)
   });
   std::string name = "T" + std::to_string(subtype);
   EXPECT_EQ(seen, name + "=single value<1> " + name + "=single value<2> ");
+}
+
+// Value and type are read where the constraint stands, whatever module the
+// value names; the view is one of the walking type's module.
+TEST_F(Constraint, SubtypeIsOfTheModuleOfTheConstraint)
+{
+  int32_t farInteger = stxDefineType(other, "Int", stxNewTNode(TYP_INTEGER));
+  TNode limited = stxNewTNode(TYP_INTEGER);
+  int32_t six = stxValue(other, stxNewInteger(farInteger, 6));
+  limited.firstConstraint = stxSub(other, stxNewSub(SUB_SINGLE_VALUE, six));
+  VNode carrier = stxNewVNode(TYP_SYNONYM, farInteger);
+  carrier.firstChild = stxDefineType(other, "Limited", limited);
+  carrier.refModule = 2;  // M as seen from N
+  TNode far = stxNewTNode(TYP_INTEGER);
+  far.firstConstraint =
+      stxSub(other, stxNewSub(SUB_INCLUDES, stxValue(other, carrier)));
+  stxImport(other, "M", "m", true);
+  int32_t record = define(stxNewSynonym(stxDefineType(other, "Far", far), 2));
+  EXPECT_EQ(shown(record), "INCLUDES<single value<6> > ");
+}
+
+// The subtype is the alternative that a selection leads to.
+TEST_F(Constraint, SubtypeBySelection)
+{
+  int32_t choice = type(TYP_CHOICE);
+  TNode alternative = stxNewTNode(TYP_INTEGER);
+  alternative.firstConstraint = single(6);
+  TNode selection = stxNewTNode(TYP_SELECTION);
+  selection.ref = choice;
+  selection.refModule = 1;
+  selection.fieldRef =
+      stxLink(tree, stxNewLink(stxAddComp(tree, choice, "a", alternative)));
+  EXPECT_EQ(shownSub(includes(define(selection))),
+            "INCLUDES<single value<6> > ");
 }
 
 // --- simple unions ----------------------------------------------------------

@@ -257,6 +257,41 @@ TEST_F(ConstraintComps, NobodyNamed)
                                         "2 c exception specification 3\n");
 }
 
+// A marker is walked like a component, and nobody can name it.
+TEST_F(ConstraintComps, MarkersAreNeverNamed)
+{
+  for (bool full : {true, false}) {
+    Structure s = structure(tree, TYP_SEQ);
+    stxAddComp(tree, s.record, "", stxNewTNode(TYP_EXTENSION_MARKER));
+    int32_t d = stxAddComp(tree, s.record, "d", stxNewTNode(TYP_NULL));
+    constrain(s.record,
+              withComponents({item(s.a), item(s.b), item(s.c), item(d)},
+                             full ? fullSpec : 0));
+    EXPECT_EQ(shown(s.record, walkComps),
+              full ? "0 a single value 255\n1 b single value 2\n"
+                     "2 c single value 255\n3  exception specification 3\n"
+                     "4 d single value 255\n"
+                   : "0 a single value 255\n1 b single value 255\n"
+                     "2 c single value 255\n4 d single value 255\n");
+  }
+}
+
+// Looking for two thousand among two thousand is no sign of damage.
+TEST_F(ConstraintComps, ManyNamedComponents)
+{
+  int32_t record = type(TYP_SEQ);
+  std::vector<int32_t> items;
+  for (int i = 0; i < 2000; ++i)
+    items.push_back(item(stxAddComp(tree, record, "c", stxNewTNode(TYP_NULL))));
+  constrain(record, withComponents(items));
+  shown(record, [](AsnType &walking, AsnConstraint *constraint) {
+    forWithComponentsConstraint(
+        walking, *constraint,
+        [](AsnType &, AsnType &, AsnConstraint &, int) { seen += "."; });
+  });
+  EXPECT_EQ(seen.size(), 2000U);
+}
+
 TEST_F(ConstraintComps, AMadeUpConstraintHasNoRecord)
 {
   Structure s = structure(tree, TYP_SEQ);

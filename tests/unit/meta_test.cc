@@ -493,6 +493,17 @@ TEST_F(TraversalStamps, ResetAndInit)
   EXPECT_THAT(all(), ElementsAre(6, 7, 8));
 }
 
+TEST_F(TraversalStamps, ResetAndInitOfTypes)
+{
+  stampGHD = stampGIP = stampGAD = 0;
+  resetTypeStamps();
+  EXPECT_THAT(all(), ElementsAre(6, 7, 8));
+  initTypeStamps();
+  EXPECT_THAT(all(), ElementsAre(9, 10, 11));
+  initStamps();
+  EXPECT_THAT(all(), ElementsAre(12, 13, 14));
+}
+
 // Only the last stamp is carried on.
 TEST_F(TraversalStamps, InitStartsFromTheLast)
 {

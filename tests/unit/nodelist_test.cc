@@ -151,6 +151,16 @@ TEST_F(NodeLists, PushNodeUniqueByKind)
   deleteNodes(subs);
 }
 
+TEST_F(NodeLists, UnknownKind)
+{
+  for (int kind : {0, 2, 4, 6, -1, 99}) {
+    NodeList bad{kind};
+    EXPECT_EXIT(addFstNode(bad), ExitedWithCode(2), "Internal error") << kind;
+    EXPECT_EXIT(pushNodeUnique(bad), ExitedWithCode(2), "Internal error")
+        << kind;
+  }
+}
+
 // Equal numbers in two modules are two records.
 TEST_F(NodeLists, PushNodeUniqueTellsModulesApart)
 {

@@ -77,6 +77,9 @@ TEST(RetRealVal, Values)
       // High half -1, low half 2^32 - 1: -2^32 less the low half.
       {-1, 10, 0, -8589934591.0},
       {-4294967296, 10, 0, -4294967296.0},
+      // Exact in 64 bits of mantissa, not in 53.
+      {1, 10, 25, 1e25},
+      {1, 10, -6, 1e-6},
   };
   for (const Row &row : rows)
     EXPECT_EQ(retRealVal(i64(row.mantissa), row.base, row.exponent),

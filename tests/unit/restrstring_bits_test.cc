@@ -168,6 +168,17 @@ TEST_F(GetAnyStringLength, CharacterStringLists)
   EXPECT_EQ(lengthOf(type, stxValue(a, ref(away, 2))), 4);
 }
 
+TEST_F(GetAnyStringLength, ZeroCharactersCount)
+{
+  int32_t type = stxType(a, stxNewTNode(TYP_IA5STR));
+  std::string zero(1, '\0');
+  int32_t value = stxValue(a, leaf8(a, TYP_IA5STR, zero));
+  EXPECT_EQ(lengthOf(type, value), 1);
+  EXPECT_EQ(lengthOf(type, list(a, TYP_IA5STR,
+                                {ref(value), leaf8(a, TYP_IA5STR, "ab")})),
+            3);
+}
+
 TEST_F(GetAnyStringLength, CharacterStringInACircle)
 {
   int32_t type = stxType(a, stxNewTNode(TYP_IA5STR));
@@ -450,6 +461,16 @@ TEST_F(CompareStrings, WideText)
   EXPECT_EQ(compare(leaf32(a, U"a\x10041"), leaf32(a, U"a\x10041")), 0);
   EXPECT_EQ(compare(leaf32(a, U"a"), leaf32(a, U"b")), 1);
   EXPECT_EQ(compare(leaf32(a, U"b"), leaf32(a, U"a")), 1);
+}
+
+// Texts end at a zero, and are all that is compared.
+TEST_F(CompareStrings, ZeroCharacters)
+{
+  std::string zero(1, '\0'), inside("a\0b", 3);
+  EXPECT_EQ(compare(leaf8(a, TYP_IA5STR, zero), leaf8(a, TYP_IA5STR, "")), 0);
+  EXPECT_EQ(compare(leaf8(a, TYP_IA5STR, inside), leaf8(a, TYP_IA5STR, "a")),
+            0);
+  EXPECT_LT(compare(leaf8(a, TYP_IA5STR, zero), leaf8(a, TYP_IA5STR, "a")), 0);
 }
 
 TEST_F(CompareStrings, MainTypesDiffer)

@@ -207,6 +207,38 @@ TEST_F(MakeRestrCharStri, StatedLengthBeyondTheStored)
             2);
 }
 
+// A zero ends what can be had of a stored string, but is a character.
+TEST_F(MakeRestrCharStri, ZeroCharacters)
+{
+  std::string zero(1, '\0'), inside("a\0b", 3);
+  RestrCharStri stri = made(stxValue(a, leaf8(a, TYP_IA5STR, zero)));
+  EXPECT_EQ(stri.length, 1);
+  EXPECT_EQ(stri.text, zero);
+  stri = made(stxValue(a, leaf8(a, TYP_IA5STR, inside)));
+  EXPECT_EQ(stri.length, 3);
+  EXPECT_EQ(stri.text, std::string("a\0\0", 3));
+  // The next segment goes on where the zero has ended the one before.
+  stri = made(list(a, TYP_IA5STR,
+                   {leaf8(a, TYP_IA5STR, inside), leaf8(a, TYP_IA5STR, "c")}));
+  EXPECT_EQ(stri.length, 4);
+  EXPECT_EQ(stri.text, std::string("ac\0\0", 4));
+  stri = made(stxValue(a, leaf16(a, std::u16string(1, u'\0'))));
+  EXPECT_EQ(stri.length, 1);
+  EXPECT_EQ(stri.text16, std::u16string(1, u'\0'));
+  stri = made(stxValue(a, leaf32(a, std::u32string(2, U'\0'))));
+  EXPECT_EQ(stri.length, 2);
+  EXPECT_EQ(stri.text32, std::u32string(2, U'\0'));
+}
+
+TEST_F(MakeRestrCharStri, StatedLengthOverAZero)
+{
+  int32_t stri = stxStri(a, std::string("a\0b", 3));
+  EXPECT_EQ(made(stxValue(a, leaf(TYP_IA5STR, stri, 1))).length, 1);
+  EXPECT_EQ(made(stxValue(a, leaf(TYP_IA5STR, stri, 2))).length, 2);
+  // The tree has three, whatever is stated.
+  EXPECT_EQ(made(stxValue(a, leaf(TYP_IA5STR, stri, 9))).length, 3);
+}
+
 TEST_F(MakeRestrCharStri, ManySegments)
 {
   std::string text(1000, 's');

@@ -6,7 +6,9 @@
 #include "cbet/outfile.h"
 #include "driver/meta.h"
 #include "driver/start.h"
+#include "model/constraint.h"
 #include "model/infvalue.h"
+#include "model/typepath.h"
 #include "store/treestore.h"
 #include "support/loadedrun.h"
 #include <filesystem>
@@ -114,6 +116,23 @@ TEST_F(Start, TakesTheTime)
   };
   EXPECT_GE(moment(timeStamp), moment(before));
   EXPECT_LE(moment(timeStamp), moment(after));
+}
+
+TEST_F(Start, EmptiesTheStacksOfTheModel)
+{
+  addAll();
+  pushPath();
+  addElemToPath("x");
+  pushStack(asnTypePtrStack, nullptr);
+  pushStack(asnConstraintPtrStack, nullptr);
+  pushStack(compFuncStack, nullptr);
+  pushStack(compsFuncStack, nullptr);
+  startOwn({"abc"});
+  EXPECT_FALSE(typePathInUse());
+  EXPECT_EQ(getStackDepth(asnTypePtrStack), 0);
+  EXPECT_EQ(getStackDepth(asnConstraintPtrStack), 0);
+  EXPECT_EQ(getStackDepth(compFuncStack), 0);
+  EXPECT_EQ(getStackDepth(compsFuncStack), 0);
 }
 
 TEST_F(Start, FirstRecordIsHeadOfBothLists)

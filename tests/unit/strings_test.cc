@@ -8,6 +8,24 @@ TEST(OrEmpty, NullIsEmpty)
   EXPECT_STREQ("", orEmpty(nullptr));
 }
 
+TEST(Between, NullIsEmpty)
+{
+  std::string text = "old";
+  EXPECT_EQ(&between(text, "a%", "b", "c"), &text);
+  EXPECT_EQ(text, "a%bc");
+  EXPECT_EQ(between(text, nullptr, "b", "c"), "bc");
+  EXPECT_EQ(between(text, "a", "b", nullptr), "ab");
+  EXPECT_EQ(between(text, nullptr, "", nullptr), "");
+}
+
+TEST(Between, PartsOfTheDestination)
+{
+  std::string text = "a text beyond the room inside of a string object";
+  std::string old = text;
+  between(text, text.c_str(), text, text.c_str());
+  EXPECT_EQ(text, old + old + old);
+}
+
 TEST(FormatText, AsPrintf)
 {
   EXPECT_EQ("a 5%", formatText("%s %d%%", "a", 5));

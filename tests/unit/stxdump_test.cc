@@ -1,6 +1,8 @@
 #include "base/strings.h"
 #include "stx/stxdump.h"
+#include "stx/stxnames.h"
 #include "stx/stxwrite.h"
+#include <algorithm>
 #include <filesystem>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -351,6 +353,55 @@ TEST_F(StxDump, OtherValues)
             "  value 3 \"b\" TYP_BITSTR length=3 \"010\"\n"
             "  value 4 \"r\" TYP_SYNONYM value=1:1\n"
             "  value 5 \"n\" TYP_NULL payload=0000000000000000000000AB\n");
+}
+
+// What a value's code does not use is not lost: with one such octet set all
+// of them are shown. Strings have a length and, at 4, the index of a string.
+TEST_F(StxDump, UnusedOctetsOfAPayload)
+{
+  struct Case {
+    int mainType;
+    std::string shown;      // with no octet set
+    std::vector<int> used;  // octets that other texts tell
+  };
+  const std::vector<int> all = {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11};
+  const std::vector<int> number(all.begin(), all.begin() + 8);
+  const Case cases[] = {
+      {TYP_BOOLEAN, " FALSE", {0}},
+      {TYP_INTEGER, " 0", number},
+      {TYP_ENUM, " 0", number},
+      {TYP_REAL, " 0*0^0", all},
+      {TYP_BITSTR, "", {0, 1, 4, 5, 6, 7}},
+      {TYP_OCTSTR, "", {0, 1, 4, 5, 6, 7}},
+      {TYP_IA5STR, "", number},
+      {TYP_BMPSTR, "", number},
+      {TYP_OBJID, "", number},
+      {TYP_NULL, "", {}},
+      {TYP_SEQ, "", {}},
+      {TYP_SYNONYM, "", {}},
+  };
+  for (const Case &c : cases) {
+    for (int octet : all) {
+      StxTree tree = stxNewTree("M", "m");
+      VNode node;
+      node.mainType = static_cast<uint8_t>(c.mainType);
+      node.payload[octet] = 0xA5;
+      stxDefineValue(tree, "v", node);
+      std::string text = section(dump(stxEncode(tree)).out, "values");
+      std::string hex(24, '0');
+      hex.replace(static_cast<size_t>(2 * octet), 2, "A5");
+      bool isUsed =
+          std::find(c.used.begin(), c.used.end(), octet) != c.used.end();
+      size_t payload = text.find(" payload=" + hex);
+      EXPECT_EQ(payload == std::string::npos, isUsed) << c.mainType << octet;
+      std::string plain = std::string(stxMainTypeName(c.mainType)) + c.shown;
+      if (isUsed) {
+        EXPECT_EQ(text.find(plain + "\n"), std::string::npos) << text;
+      } else {
+        EXPECT_NE(text.find(plain + " payload="), std::string::npos) << text;
+      }
+    }
+  }
 }
 
 // The value of a contained subtype names a type, whatever its own code is.

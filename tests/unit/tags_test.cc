@@ -179,6 +179,23 @@ TEST_F(Tags, AutomaticTagOfAnUntaggedChoice)
             "0:2.0 1/1; 0:2.1 1/1; 0:2.2 1/1; 0:2.3 1/1; 0/0; ");
 }
 
+// What the number replaces is the tag of the type referred to.
+TEST_F(Tags, AutomaticTagOfAReference)
+{
+  int32_t father = define("S", TYP_SEQ);
+  at(father).nodeFlags |= NF_AUTOMATIC_TAGS;
+  comp(father, "a", stxNewSynonym(integer));
+  EXPECT_EQ(tagsOfComps(father), "0:2.0 1/1; ");
+  TestType type(module, father);
+  seen.clear();
+  forEachTypeComp(*type, [](AsnType &, AsnType &comp_, int) {
+    EXPECT_EQ(comp_.tagsOutermost->record, comp_.baseRecNr);
+    forEachLocalTag(comp_, noteTag);
+    forEachLocalTagRevOrd(comp_, noteTag);
+  });
+  EXPECT_EQ(seen, "");
+}
+
 TEST_F(Tags, NoAutomaticTags)
 {
   int32_t father = define("S", TYP_SEQ);
@@ -235,11 +252,46 @@ TEST_F(TagVisits, ByPosition)
   }
   EXPECT_EXIT(forTags(*c, nullptr, TAG_ALL, false), ExitedWithCode(2),
               "Call-back function not defined");
+  EXPECT_EXIT(forInnermostTags(*b, nullptr), ExitedWithCode(2),
+              "Call-back function not defined");
+  // Nothing to call: the call-back is not asked for.
+  forOutermostTags(*b, nullptr);
+  forOutermostTagsRevOrd(*b, nullptr);
   seen.clear();
   forTags(*a, noteTag, TAG_MIDDLE, true);
   forTags(*a, noteTag, TAG_OUTERMOST | TAG_INNERMOST, true);
   forTags(*a, noteTag, 0, false);
   EXPECT_EQ(seen, "1:2.2 2:0.2 0:2.1 ");
+}
+
+TEST_F(TagVisits, TwoTagsHaveNoMiddle)
+{
+  int32_t two = define("Two", TYP_INTEGER);
+  tag(two, 1, explicitMode);
+  start();
+  TestType type(module, two);
+  for (TagWalk *walk :
+       {forOutermostTag, forOutermostTags, forOutermostTagsRevOrd})
+    EXPECT_EQ(shown(*type, walk), "0:2.1 ");
+  for (TagWalk *walk :
+       {forInnermostTag, forInnermostTags, forInnermostTagsRevOrd})
+    EXPECT_EQ(shown(*type, walk), "1:0.2 ");
+}
+
+// Embedding options behind the last tag are passed over in both directions.
+TEST_F(TagVisits, EmbeddingLinesBehindTheTags)
+{
+  int32_t base = define("Base", TYP_CHOICE);
+  stxNodeTed(tree, base, TED_EMBEDDING, "-x");
+  int32_t record = define("Mine", stxNewSynonym(base));
+  tag(record, 1, explicitMode);
+  tag(record, 2, explicitMode);
+  start();
+  TestType type(module, record);
+  EXPECT_EQ(type->tagsLast->tagClass, TAG_NOT_A_TAG);
+  EXPECT_EQ(shown(*type, forEachTag), "0:2.1 1:2.2 ");
+  EXPECT_EQ(shown(*type, forEachTagRevOrd), "1:2.2 0:2.1 ");
+  EXPECT_EQ(shown(*type, forEachLocalTagRevOrd), "1:2.2 0:2.1 ");
 }
 
 TEST_F(TagVisits, LocalTags)

@@ -595,6 +595,30 @@ TEST_F(TreeFiles, InnerZeroEndsTheString)
   EXPECT_EQ(std::u16string(getStri16(module, 1)), u"");
 }
 
+// Those behind an inner zero are told, but can't be read.
+TEST_F(TreeFiles, UnitsAsTheTreeStatesThem)
+{
+  ASSERT_EQ(read(withString(REC_STRI, std::string("\5\0ab\0d\0", 7))), 0);
+  EXPECT_EQ(striUnits(module, REC_STRI, 1), 1);  // the module's name
+  EXPECT_EQ(striUnits(module, REC_STRI, 2), 4);
+  EXPECT_EQ(striUnits(module, REC_STRI, -2), 4);
+  EXPECT_EQ(striUnits(module, REC_STRI, emptyStriIndex), 0);
+  EXPECT_EXIT(striUnits(module, REC_STRI, 3), ExitedWithCode(2),
+              "Can not read record from syntax tree");
+  EXPECT_EXIT(striUnits(module, REC_STRI16, 1), ExitedWithCode(2),
+              "Can not read record from syntax tree");
+  ASSERT_EQ(read(withString(REC_STRI, std::string("\2\0\0\0", 4))), 0);
+  EXPECT_EQ(striUnits(module, REC_STRI, 2), 1);
+  ASSERT_EQ(read(withString(REC_STRI, std::string("\1\0\0", 3))), 0);
+  EXPECT_EQ(striUnits(module, REC_STRI, 2), 0);
+  ASSERT_EQ(read(withString(REC_STRI16, std::string("\3\0\0\0b\0\0\0", 8))), 0);
+  EXPECT_EQ(striUnits(module, REC_STRI16, 1), 2);
+  ASSERT_EQ(read(withString(REC_STRI32, little(2, 3) + little(4, 'a') +
+                                            little(4, 0) + little(4, 0))),
+            0);
+  EXPECT_EQ(striUnits(module, REC_STRI32, 1), 2);
+}
+
 TEST_F(TreeFiles, WideUnitsAreLittleEndian)
 {
   ASSERT_EQ(read(withString(8, std::string("\2\0\x34\x12\0\0", 6))), 0);

@@ -56,6 +56,66 @@ TEST_F(TypeMeta, NamesOfComponents)
   EXPECT_EQ(seen, "a_b_fld c_fld extensionmarker d_fld none ");
 }
 
+TEST_F(TypeMeta, NamesOfTypes)
+{
+  int32_t foo = define("Foo", stxNewTNode(TYP_SEQ, VF_STRU));
+  comp(foo, "a", stxNewTNode(TYP_CHOICE, VF_STRU));
+  comp(foo, "b", stxNewTNode(TYP_INTEGER, VF_I32));
+  comp(foo, "c", stxNewSynonym(integer));
+  marker(foo);
+  int32_t list = define("L", stxNewTNode(TYP_SEQOF, VF_STRU));
+  comp(list, "", stxNewTNode(TYP_SET, VF_STRU));
+  start();
+  static std::string seen;
+  seen.clear();
+  for (int32_t record : {foo, list}) {
+    TestType type(module, record);
+    seen += orNone(getMetaTypeId(*type)) + "|" +
+            orNone(getMetaBaseTypeId(*type)) + "\n";
+    forEachTypeCompOrElem(*type, [](AsnType &, AsnType &comp_, int) {
+      seen += orNone(getMetaTypeId(comp_)) + "|" +
+              orNone(getMetaBaseTypeId(comp_)) + "\n";
+    });
+  }
+  EXPECT_EQ(seen, "Foo|Foo\n"
+                  "a_Foo|struct t_a_Foo\n"
+                  "b_Foo|sint32\n"
+                  "Int|Int\n"
+                  "Foo|SKIPPED\n"
+                  "L|L\n"
+                  "1_L|struct t_1_L\n");
+}
+
+TEST_F(TypeMeta, NamesOfStringElements)
+{
+  const struct {
+    int mainType;
+    const char *name;
+  } rows[] = {{TYP_BITSTR, "BITSTRING"},   {TYP_OCTSTR, "OCTET"},
+              {TYP_NUMSTR, "NUMERICCHAR"}, {TYP_PRISTR, "PRINTABLECHAR"},
+              {TYP_TELSTR, "T61CHAR"},     {TYP_VIDSTR, "VIDEOTEXCHAR"},
+              {TYP_VISSTR, "VISIBLECHAR"}, {TYP_IA5STR, "IA5CHAR"},
+              {TYP_GRASTR, "GRAPHICCHAR"}, {TYP_GENSTR, "GENERALCHAR"},
+              {TYP_BMPSTR, "ASN_BMPCHAR"}, {TYP_UNISTR, "none"},
+              {TYP_OBJDESCR, "none"},      {TYP_SEQ, "none"},
+              {TYP_INTEGER, "none"},       {TYP_CHASTR, "none"}};
+  std::vector<int32_t> records;
+  for (const auto &row : rows)
+    records.push_back(define("T" + std::to_string(row.mainType),
+                             stxNewTNode(row.mainType, VF_STAS8)));
+  int32_t dynamic = define("Dyn", stxNewTNode(TYP_OCTSTR, VF_DYNS8));
+  start();
+  for (size_t i = 0; i < records.size(); ++i) {
+    TestType type(module, records[i]);
+    EXPECT_EQ(orNone(getMetaHomeTypeId(*type)), rows[i].name);
+    EXPECT_EQ(orNone(homeTypeId(*type)), rows[i].name);
+  }
+  // A predefined C type has its own.
+  TestType type(module, dynamic);
+  EXPECT_EQ(getMetaHomeTypeId(*type), nullptr);
+  EXPECT_EQ(homeTypeId(*type), nullptr);
+}
+
 TEST_F(TypeMeta, NoRecordNoText)
 {
   int32_t record = define("T", TYP_INTEGER);
@@ -63,6 +123,9 @@ TEST_F(TypeMeta, NoRecordNoText)
   start();
   setCreateBETypMetaFlag(false);
   TestType type(module, record);
+  EXPECT_EQ(getMetaTypeId(*type), nullptr);
+  EXPECT_EQ(getMetaBaseTypeId(*type), nullptr);
+  EXPECT_EQ(getMetaHomeTypeId(*type), nullptr);
   EXPECT_EQ(getMetaCompId(*type), nullptr);
   EXPECT_EQ(getMetaFuncId(*type), nullptr);
   EXPECT_EQ(getMetaFuncOption(*type), nullptr);
@@ -90,12 +153,56 @@ TEST_F(TypeMeta, FreshRecordFromTheCache)
   TestType type(module, integer);
   BETypMetaRec *record = newBETypMetaRec(*type);
   record->compId = record->funcId = record->funcOption = "used";
+  record->typeId = record->baseTypeId = record->homeTypeId = "used";
+  record->extensionInfoValid = 1;
+  record->extensionInfo.addTotalCount = 3;
   deleteBETypMetaRec(*type, record);
   BETypMetaRec *again = newBETypMetaRec(*type);
+  EXPECT_EQ(again->typeId, "Int");
   EXPECT_EQ(again->compId, "");
+  EXPECT_EQ(again->homeTypeId, "");
   EXPECT_EQ(again->funcId, "");
   EXPECT_EQ(again->funcOption, "");
+  EXPECT_EQ(again->extensionInfoValid, 0);
+  EXPECT_EQ(again->extensionInfo.addTotalCount, 0);
   deleteBETypMetaRec(*type, again);
+}
+
+TEST_F(TypeMeta, TextsKeepTheirRoom)
+{
+  int32_t record = define("A_name_beyond_what_a_string_holds", TYP_SEQ);
+  start();
+  TestType type(module, record);
+  BETypMetaRec *first = newBETypMetaRec(*type);
+  const char *room = first->typeId.data();
+  deleteBETypMetaRec(*type, first);
+  BETypMetaRec *again = newBETypMetaRec(*type);
+  EXPECT_EQ(again, first);
+  EXPECT_EQ(again->typeId.data(), room);
+  // Two at a time are two.
+  BETypMetaRec *second = newBETypMetaRec(*type);
+  EXPECT_NE(second, again);
+  deleteBETypMetaRec(*type, second);
+  deleteBETypMetaRec(*type, again);
+}
+
+TEST_F(TypeMeta, RecordWhileAnotherIsMade)
+{
+  // Names of a component ask for the types that it refers to.
+  int32_t last = integer;
+  for (int i = 0; i < 3; ++i)
+    last = define("S" + std::to_string(i), stxNewSynonym(last));
+  int32_t father = define("Foo", TYP_SEQ);
+  comp(father, "a", stxNewSynonym(last));
+  start();
+  TestType type(module, father);
+  static int visits;
+  visits = 0;
+  forEachTypeComp(*type, [](AsnType &, AsnType &comp_, int) {
+    EXPECT_STREQ(getMetaTypeId(comp_), "Int");
+    ++visits;
+  });
+  EXPECT_EQ(visits, 1);
 }
 
 TEST_F(TypeMeta, FuncOption)

@@ -594,7 +594,12 @@ TEST_F(CompSearch, ByNumber)
     EXPECT_TRUE(findByInd(m, first, left)) << name;
     EXPECT_EQ(left, 0);
     EXPECT_EQ(currentName(), name);
+    readRec(m, REC_TNODE, 1);
+    EXPECT_TRUE(findTypeCompByInd(m, first, number)) << name;
+    EXPECT_EQ(currentName(), name);
   }
+  for (int32_t none : {-1, 0, 7})
+    EXPECT_FALSE(findTypeCompByInd(m, first, none)) << none;
   int32_t left = 7;
   EXPECT_FALSE(findByInd(m, first, left));
   EXPECT_EQ(left, 1);

@@ -254,6 +254,40 @@ TEST_F(TypeQueryWalk, ExtensionQueriesWithoutMarker)
   EXPECT_EQ(getTypeExtensionmarkerCompNbr(*type), -1);
 }
 
+// The bit of a list tells of its size: its element is all root.
+TEST_F(TypeQueryWalk, ExtensionQueriesOfAList)
+{
+  for (int mainType : {TYP_SEQOF, TYP_SETOF}) {
+    int32_t record = define(mainType == TYP_SEQOF ? "L" : "M", mainType);
+    comp(record, "", TYP_NULL);
+    at(record).nodeFlags |= NF_EXTENSIBLE;
+    start();
+    TestType type(module, record);
+    seen.clear();
+    forTypeElem(*type, [](AsnType &father, AsnType &elem) {
+      showAnswers(father, elem, 0);
+    });
+    EXPECT_EQ(seen.substr(0, 8), ":0100000");
+    EXPECT_EQ(getTypeExtensionmarkerCompNbr(*type), -1);
+  }
+}
+
+// A later marker is no addition, what follows it is.
+TEST_F(TypeQueryWalk, ExtensionQueriesWithTwoMarkers)
+{
+  int32_t record = define("S", TYP_SEQ);
+  comp(record, "a", TYP_NULL);
+  marker(record);
+  comp(record, "b", TYP_NULL);
+  marker(record);
+  comp(record, "c", TYP_NULL, TCS_OPTIONAL);
+  start();
+  TestType type(module, record);
+  seen.clear();
+  forEachTypeComp(*type, showAnswers);
+  EXPECT_EQ(seen, "a:01001001 :00000000 b:10110100 :10000000 c:10100010 ");
+}
+
 TEST_F(TypeQueryWalk, ExtensionQueriesWithoutFather)
 {
   AsnType comp;

@@ -84,6 +84,24 @@ TEST_F(TypeWarn, OtherTypeByItsIdentifier)
   EXPECT_EQ(seen, line(0, "element Int"));
 }
 
+TEST_F(TypeWarn, InlineElementByItsPath)
+{
+  int32_t father = define("My-Type", TYP_SEQ);
+  int32_t list = comp(father, "a-b", TYP_SEQOF);
+  comp(list, "", TYP_NULL);
+  start();
+  TestType type(module, father);
+  seen.clear();
+  forEachTypeComp(*type, [](AsnType &, AsnType &comp_, int) {
+    forTypeElem(comp_, [](AsnType &, AsnType &elem) {
+      std::string text = printed(typeWarning, elem);
+      seen = text.substr(0, text.find('\n') + 1);
+    });
+  });
+  // Its C name, with "-" for each "_".
+  EXPECT_EQ(seen, line(0, "element 1-a-b-a-b-My-Type"));
+}
+
 TEST_F(TypeWarn, NothingWhenQuiet)
 {
   start();

@@ -218,6 +218,16 @@ TEST_F(ValueStrings, Characters)
   }
 }
 
+TEST_F(ValueStrings, ZeroCharacters)
+{
+  VNode node = leaf8(a, TYP_IA5STR, std::string("a\0b", 3));
+  std::string text;
+  int32_t length = 0;
+  ASSERT_TRUE(makeCharacterString(made(TYP_IA5STR, node), text, length));
+  EXPECT_EQ(length, 3);
+  EXPECT_STREQ(text.c_str(), "a");
+}
+
 TEST_F(ValueStrings, OtherNotations)
 {
   AsnValue &text = made(TYP_IA5STR, leaf8(a, TYP_IA5STR, "abc"));

@@ -317,8 +317,25 @@ TEST_F(SortedArray, TooLargeItem)
   EXPECT_EQ(sorted(index), "2: 0 1 cont / -1: gaps");
   std::string text = testing::internal::GetCapturedStderr();
   verboseEx = level;
-  EXPECT_NE(text.find("** Too large enumerated item\n"), std::string::npos)
-      << text;
+  EXPECT_EQ(text, "asn/moda.asn:0:BET Warning\n"
+                  "** Type constraint information does not fit in 32 bits\n"
+                  "** Too large enumerated item\n");
+}
+
+// The warning names the place of the item.
+TEST_F(SortedArray, TooLargeItemOfAnotherModule)
+{
+  int level = verboseEx;
+  int32_t far = stxDefineType(b, "Far", stxNewTNode(TYP_ENUM));
+  int32_t item = stxAddNamedNumber(b, far, "large", -(INT64_C(1) << 35));
+  stxValueAt(b, item).line = 31;
+  int32_t near = stxDefineType(a, "Near", stxNewSynonym(far, 2));
+  verboseEx = 2;
+  testing::internal::CaptureStderr();
+  EXPECT_EQ(sorted(near), "1: 0 cont / -1: gaps");
+  std::string text = testing::internal::GetCapturedStderr();
+  verboseEx = level;
+  EXPECT_TRUE(text.starts_with("asn/modb.asn:31:BET Warning\n")) << text;
 }
 
 TEST_F(SortedArray, OtherTypes)
@@ -613,79 +630,6 @@ TEST_F(ValueIter, DefaultValueWithoutGovernor)
   view1.defaultValue = value;
   EXPECT_EXIT(forDefaultValue(view1, noteDefault), ExitedWithCode(2),
               "Cannot obtain a default value\\.");
-}
-
-static void noteEndpoints(AsnType &, AsnValue &lower, bool lowerClosed,
-                          AsnValue &upper, bool upperClosed)
-{
-  auto text = [](AsnValue &value) {
-    std::string out;
-    if (value.base.mainType == TYP_REAL)
-      return realValueStri(out, nullptr, value, nullptr);
-    return integerValueStri(out, nullptr, value, nullptr);
-  };
-  for (AsnValue *value : {&lower, &upper}) {
-    bool infinite = isPlusInfinity(*value) || isMinusInfinity(*value);
-    EXPECT_EQ(value->governor == nullptr, infinite);
-    EXPECT_EQ(value->compStatus, 2);
-    EXPECT_NE(value->metaRec, nullptr);
-  }
-  seen += (lowerClosed ? "[" : "(") + text(lower) + ", " + text(upper) +
-          (upperClosed ? "]" : ")");
-}
-
-struct TypeEndpoints : ValueIter {
-  std::string endpoints(int mainType, int32_t constraint = 0)
-  {
-    TNode node = stxNewTNode(mainType);
-    node.firstConstraint = constraint;
-    int32_t index = stxDefineType(a, "T", node);
-    start();
-    forTypeEndpoints(typeView(index), noteEndpoints);
-    return take();
-  }
-};
-
-TEST_F(TypeEndpoints, Unconstrained)
-{
-  // The texts of infinite integers are crossed.
-  static const char sizes[] = "(PLUS-INFINITY, MINUS-INFINITY)";
-  for (int mainType = 0; mainType <= 31; ++mainType) {
-    bool sized = mainType == 4 || mainType == 5 || mainType == 8 ||
-                 mainType == 10 || (mainType >= 15 && mainType <= 24) ||
-                 mainType == 30;
-    std::string expected = sized ? sizes : "";
-    if (mainType == TYP_INTEGER)
-      expected = "[PLUS-INFINITY, MINUS-INFINITY]";
-    if (mainType == TYP_REAL)
-      expected = "[MINUS-INFINITY, PLUS-INFINITY]";
-    if (mainType != TYP_ENUM) {
-      EXPECT_EQ(endpoints(mainType), expected) << mainType;
-    }
-  }
-}
-
-TEST_F(TypeEndpoints, Range)
-{
-  int32_t lower = stxValue(a, governed(3));
-  int32_t upper = stxValue(a, governed(8));
-  SubRec range = stxNewSub(SUB_RANGE, lower, upper);
-  range.subFlags = LOWER_CLOSED;
-  EXPECT_EQ(endpoints(TYP_INTEGER, stxSub(a, range)), "[3, 8)");
-  range.operand2 = 0;
-  range.subFlags = UPPER_CLOSED;
-  EXPECT_EQ(endpoints(TYP_INTEGER, stxSub(a, range)), "(3, MINUS-INFINITY)");
-}
-
-TEST_F(TypeEndpoints, BrokenEnumeration)
-{
-  int32_t index = stxDefineType(a, "E", stxNewTNode(TYP_ENUM));
-  int32_t item = stxAddNamedNumber(a, index, "one", 1);
-  stxValueAt(a, item).mainType = TYP_REAL;
-  start();
-  AsnType &type = typeView(index);
-  EXPECT_EXIT(forTypeEndpoints(type, noteEndpoints), ExitedWithCode(2),
-              "Cannot obtain endpoint for a type\\.");
 }
 
 // --- what a value holds -----------------------------------------------------

@@ -270,6 +270,54 @@ TEST_F(ValueSetBuild, ItemsOfAnotherModule)
               ElementsAre(Seg(3, 4)));
 }
 
+// The way into another module begins with a reference, and a selection is
+// none; behind a reference it is followed.
+TEST_F(ValueSetBuild, ItemsOfAnAlternativeOfAnotherModule)
+{
+  int32_t far = enumeration(other, {3, 4});
+  int32_t choice = stxDefineType(other, "C", stxNewTNode(TYP_CHOICE));
+  TNode node = stxNewTNode(TYP_SELECTION);
+  node.ref = choice;
+  node.refModule = 2;
+  node.fieldRef = stxLink(
+      tree, stxNewLink(stxAddComp(other, choice, "a", stxNewSynonym(far)), 2));
+  int32_t selection = define(node);
+  int32_t behind = synonym(selection);
+  EXPECT_THAT(values(selection), IsEmpty());
+  EXPECT_THAT(values(behind), ElementsAre(Seg(3, 4)));
+}
+
+TEST_F(ValueSetBuild, ItemsOfAnAlternativeOfTheModule)
+{
+  int32_t near = enumeration(tree, {3, 4});
+  int32_t choice = type(TYP_CHOICE);
+  TNode node = stxNewTNode(TYP_SELECTION);
+  node.ref = choice;
+  node.refModule = 1;
+  node.fieldRef = stxLink(
+      tree, stxNewLink(stxAddComp(tree, choice, "a", stxNewSynonym(near))));
+  EXPECT_THAT(values(define(node)), ElementsAre(Seg(3, 4)));
+}
+
+TEST_F(ValueSetBuild, ItemsOfAComponentBroughtFromAnotherModule)
+{
+  int32_t far = stxDefineType(other, "S", stxNewTNode(TYP_SEQ));
+  int32_t item = stxAddComp(other, far, "e", stxNewTNode(TYP_ENUM));
+  for (int64_t number : {3, 4})
+    stxAddNamedNumber(other, item, "i", number);
+  int32_t father = type(TYP_SEQ);
+  TNode entry = stxNewSynonym(far, 2);
+  entry.compStatus = TCS_COMPOF;
+  stxAddComp(tree, father, "", entry);
+  load();
+  TestType type(module, father);
+  forEachTypeComp(*type, [](AsnType &, AsnType &comp, int) {
+    EXPECT_TRUE(comp.inComponentsOf);
+    EXPECT_EQ(forInt64ValueSet(comp, take64), 1);
+  });
+  EXPECT_THAT(got, ElementsAre(Seg(3, 4)));
+}
+
 TEST_F(ValueSetBuild, OnlyEnumerationsHaveItems)
 {
   int32_t record = type(TYP_INTEGER);

@@ -188,6 +188,15 @@ TEST_F(SizeReaders, SizesBeyond32Bits)
               testing::HasSubstr("** Size constraint lower bound too large\n"));
   EXPECT_THAT(text,
               testing::HasSubstr("** Size constraint upper bound too large\n"));
+  int32_t lower = 5;
+  int32_t upper = 5;
+  int32_t limit = 5;
+  testing::internal::CaptureStderr();
+  getSizeConstraintEndpoints(*type, lower, upper, &limit);
+  EXPECT_EQ(testing::internal::GetCapturedStderr(), text);
+  EXPECT_EQ(lower, 0);
+  EXPECT_EQ(upper, 0);
+  EXPECT_EQ(limit, 0);
 }
 
 TEST_F(SizeReaders, EndpointsWithoutASize)

@@ -200,4 +200,7 @@ TEST_F(ValueTexts, CharacterStrings)
   EXPECT_EQ(characterStringValueStri(text, "<",
                                      made(TYP_BMPSTR, leaf16(a, u"ab")), ">"),
             "<>");
+  VNode zero = leaf8(a, TYP_IA5STR, std::string("a\0b", 3));
+  EXPECT_EQ(characterStringValueStri(text, "<", made(TYP_IA5STR, zero), ">"),
+            "<a>");
 }

@@ -74,6 +74,7 @@ static bool actionOf(Compilation &c, const AsnAnnotation &note, uint8_t &action)
 
 struct NoteTarget {
   Compilation &c;
+  int module;
   StxTree &tree;
   int32_t node;
 };
@@ -125,8 +126,9 @@ static const FlagWord flagWords[] = {
 };
 
 // Sets an option bit or a summary bit by its word, "no-" clearing it.
-static bool applyBit(TNode &node, const std::string &key)
+static bool applyBit(NoteTarget &target, const std::string &key)
 {
+  TNode &node = typeOf(target);
   bool clear = key.starts_with("no-");
   std::string word = clear ? key.substr(3) : key;
   for (const OptionWord &row : optionWords) {
@@ -141,6 +143,8 @@ static bool applyBit(TNode &node, const std::string &key)
     if (word == row.word) {
       node.nodeFlags = static_cast<uint16_t>(clear ? node.nodeFlags & ~row.flag
                                                    : node.nodeFlags | row.flag);
+      if (row.flag == NF_IGNORABLE && clear)
+        moduleAt(target.c, target.module).notIgnorable.push_back(target.node);
       return true;
     }
   }
@@ -225,16 +229,6 @@ static std::string lineOf(const AsnAnnotation &note)
   return optionToUpper(line);
 }
 
-// The line for the back-end: as it is if it is one already, else in the
-// tool's block; a comment stays a comment.
-static std::string backEndLineOf(const AsnAnnotation &note)
-{
-  if (note.value.starts_with("-"))
-    return note.value;
-  bool isComment = note.value.starts_with("//");
-  return (isComment ? "-BEO=" : "-BEO=QUORVEN=") + note.value;
-}
-
 static void applyOption(NoteTarget &target, const AsnAnnotation &note)
 {
   if (needsValue(target.c, note))
@@ -244,7 +238,8 @@ static void applyOption(NoteTarget &target, const AsnAnnotation &note)
 static void applyBeo(NoteTarget &target, const AsnAnnotation &note)
 {
   if (needsValue(target.c, note))
-    stxNodeTed(target.tree, target.node, TED_BACK_END, backEndLineOf(note));
+    stxNodeTed(target.tree, target.node, TED_BACK_END,
+               backEndOption(note.value));
 }
 
 // "E1:text": the key of the place, then the text.
@@ -291,7 +286,7 @@ static const NoteWord valueWords[] = {
      [](NoteTarget &target, const AsnAnnotation &note) {
        if (needsValue(target.c, note))
          stxValueTed(target.tree, target.node, TED_BACK_END,
-                     backEndLineOf(note));
+                     backEndOption(note.value));
      }},
 };
 
@@ -313,7 +308,7 @@ static const NoteWord moduleWords[] = {
     {"beo",
      [](NoteTarget &target, const AsnAnnotation &note) {
        if (needsValue(target.c, note))
-         stxGlobalOption(target.tree, TED_BACK_END, backEndLineOf(note));
+         stxGlobalOption(target.tree, TED_BACK_END, backEndOption(note.value));
      }},
 };
 
@@ -348,7 +343,7 @@ const AsnAnnotation *prefixNote(const AstNotes &notes)
 
 void annotateModule(Compilation &c, int module, const AstNotes &notes)
 {
-  NoteTarget target = {c, treeOf(c, module), 0};
+  NoteTarget target = {c, module, treeOf(c, module), 0};
   for (const AsnAnnotation &note : notes)
     if (!applyWord(moduleWords, target, note))
       unknownWord(c, note);
@@ -357,17 +352,16 @@ void annotateModule(Compilation &c, int module, const AstNotes &notes)
 void annotateType(Compilation &c, int module, int32_t node,
                   const AstNotes &notes)
 {
-  NoteTarget target = {c, treeOf(c, module), node};
+  NoteTarget target = {c, module, treeOf(c, module), node};
   for (const AsnAnnotation &note : notes)
-    if (!applyWord(typeWords, target, note) &&
-        !applyBit(typeOf(target), note.key))
+    if (!applyWord(typeWords, target, note) && !applyBit(target, note.key))
       unknownWord(c, note);
 }
 
 void annotateValue(Compilation &c, int module, int32_t node,
                    const AstNotes &notes)
 {
-  NoteTarget target = {c, treeOf(c, module), node};
+  NoteTarget target = {c, module, treeOf(c, module), node};
   for (const AsnAnnotation &note : notes)
     if (!applyWord(valueWords, target, note))
       unknownWord(c, note);

@@ -78,6 +78,9 @@ static void choosePrefixes(Compilation &c)
       continue;
     size_t length = std::max<size_t>(1, c.options.prefixLength);
     std::string prefix = loweredName(module.ast->name).substr(0, length);
+    // A cut may fall behind a hyphen, where no name ends.
+    while (prefix.ends_with('-'))
+      prefix.pop_back();
     module.prefix = freePrefix(prefix, length, used);
     used.insert(module.prefix);
   }
@@ -205,6 +208,8 @@ static void genClassDefinition(Compilation &c, ModuleState &module,
     node.mainType = static_cast<uint8_t>(found.builtin);
   else if (found.node.node != 0)
     makeSynonym(c, module.number, def.node, found.node);
+  else
+    genClassInto(c, module.number, *found.scope, *found.objectClass, def.node);
 }
 
 static void genTypeDefinition(Compilation &c, ModuleState &module,

@@ -6,7 +6,9 @@
 #include <cstdint>
 #include <deque>
 #include <map>
+#include <set>
 #include <string>
+#include <tuple>
 #include <unordered_map>
 #include <vector>
 
@@ -40,7 +42,7 @@ struct Definition {
   const AstAssign *assign = nullptr;
   int module = 0;
   DefKind kind = DK_UNKNOWN;
-  uint8_t state = 0;  // of the search for `kind` and for circles
+  uint8_t state = 0;  // of the searches for `kind` and for circles
   int32_t node = 0;   // its TNode, or VNode of a value or object; 0: none
 };
 
@@ -51,6 +53,7 @@ struct Binding {
   const AstParam *param = nullptr;
   const AstActual *actual = nullptr;
   const Scope *scope = nullptr;  // in which the actual is read
+  int meaning = 0;               // equal for actuals that mean the same
 };
 
 // Where names are looked up: the parameters of an assignment, then its module.
@@ -64,12 +67,16 @@ struct Scope {
 struct TypeUse {
   const AstType *type = nullptr;
   const Scope *scope = nullptr;
+
+  bool operator==(const TypeUse &) const = default;
 };
 
 // A node of a module's tree.
 struct NodeAt {
   int module = 0;
   int32_t node = 0;  // 0: none
+
+  bool operator==(const NodeAt &) const = default;
 };
 
 // Notes on a node, applied when all content is known.
@@ -93,6 +100,12 @@ struct ModuleState {
   std::vector<NodeNotes> typeNotes;
   std::vector<NodeNotes> valueNotes;
 
+  std::vector<int32_t> notIgnorable;  // by annotation
+
+  // Definitions that the text does not have: recursive instances.
+  std::vector<int32_t> madeTypes;
+  std::set<std::string> madeNames;
+
   // Hidden nodes that one record serves: builtin types by main type, and
   // references to types elsewhere.
   std::unordered_map<int, int32_t> builtins;
@@ -111,6 +124,7 @@ struct LateConstraints {
   const AstConstraint *set = nullptr;  // of a value set, which comes first
   const Scope *setScope = nullptr;
   const AstType *governor = nullptr;  // of the set
+  TypeUse inPlace;  // the governor, if it is written out on the node
   int32_t node = 0;
 };
 
@@ -130,7 +144,20 @@ struct LateSelection {
   int32_t node = 0;
   NodeAt choice;
   std::string name;
+  std::string shown;  // the CHOICE
   AsnPos pos;
+};
+
+struct NamedPlace {
+  AsnPos pos;
+  std::string shown;  // in quotes
+};
+
+// An instance that is being made, and the nodes in it that refer back to it.
+struct OpenInstance {
+  int into = 0;
+  const Scope *scope = nullptr;
+  std::vector<int32_t> references;
 };
 
 struct Compilation {
@@ -143,18 +170,38 @@ struct Compilation {
   std::deque<Scope> scopes;
   const AstType *integer = nullptr;  // governs sizes
 
-  // Each use of a parameterised definition has one scope.
+  // Each use of a parameterised definition has a scope, one for all uses
+  // that mean the same.
   std::map<std::pair<const AstRef *, const Scope *>, const Scope *> instances;
+  std::map<std::pair<const Definition *, std::vector<int>>, Scope *>
+      instancesByMeaning;
+  std::unordered_map<std::string, int> meanings;
+  std::vector<OpenInstance> openInstances;
+
+  // Definitions made for recursive instances, and classes that are instances,
+  // by tree and scope.
+  std::map<std::pair<int, const Scope *>, int32_t> recursiveInstances;
+  std::map<std::pair<int, const Scope *>, int32_t> classInstances;
   int instantiations = 0;
   bool exhausted = false;  // a limit was met and reported
-  int walkDepth = 0;       // of searches that may run in a circle
+  int objectDepth = 0;     // of objects and sets within each other
   int typeDepth = 0;       // of types within types
   int nesting = 0;         // of instances that are being made
+
+  // Searches that are under way, see `Walk`: kind, what, scope.
+  std::vector<std::tuple<int, const void *, const Scope *>> walks;
 
   // What is left to do; the lists grow while they are worked off.
   std::deque<LateConstraints> lateConstraints;
   std::deque<LateValue> lateValues;
   std::deque<LateSelection> lateSelections;
+
+  // INTEGER nodes with an end that 64 bits do not hold.
+  std::set<std::pair<int, int32_t>> wideNodes;
+
+  // Where types of constraints and COMPONENTS OF are named, for errors that
+  // come up on the nodes.
+  std::map<std::pair<int, int32_t>, NamedPlace> places;
 
   // References from the definition of a value to others.
   const Definition *currentValue = nullptr;

@@ -5,7 +5,9 @@
 // records say.
 
 #include "asn2stx/endpoints.h"
+#include "asn2stx/chain.h"
 #include "asn2stx/gentype.h"
+#include "asn2stx/summary.h"
 #include <limits>
 #include <map>
 #include <optional>
@@ -15,9 +17,8 @@
 constexpr int64_t least = std::numeric_limits<int64_t>::min();
 constexpr int64_t most = std::numeric_limits<int64_t>::max();
 
-// Types within constraints within types, and references of a value.
-constexpr int maxDepth = 2000;
-constexpr int maxChain = 1000;
+// Constraints within types within constraints.
+constexpr int maxDepth = 6000;
 
 // One side of a type; nothing if the records tell none.
 typedef std::optional<int64_t> Endpoint;
@@ -48,7 +49,8 @@ static Endpoint subEndpoint(EndRun run, int32_t sub);
 // The integer behind a value's references.
 static Endpoint valueOf(Compilation &c, int module, int32_t value)
 {
-  for (int steps = 0; value > 0 && steps < maxChain; ++steps) {
+  CircleGuard<NodeAt> guard;
+  while (value > 0 && !guard.repeats({module, value})) {
     const VNode &node = stxValueAt(treeOf(c, module), value);
     if (node.mainType == TYP_INTEGER) {
       sint64 number = payloadInt64(node);
@@ -177,20 +179,31 @@ static Endpoint freshEndpoint(EndRun run, int32_t index)
   return end ? end : infinity(run.isUpper);
 }
 
+// Reports a constraint that cannot be worked out, by the type that a node's
+// constraint stands on.
+static void tellFault(const EndRun &run, int32_t index, bool isCircle)
+{
+  NamedPlace at = placeOf(run.c, {run.module, index});
+  if (isCircle)
+    asnError(run.c.errors, at.pos, "circular constraint of %s",
+             at.shown.c_str());
+  else
+    asnError(run.c.errors, at.pos, "%s: constraints are nested too deeply",
+             at.shown.c_str());
+}
+
 static Endpoint nodeEndpoint(EndRun run, int32_t index)
 {
   std::tuple<int, int32_t, bool> key = {run.module, index, run.isUpper};
   auto known = run.memo.ends.find(key);
   if (known != run.memo.ends.end())
     return known->second;
-  if (++run.depth > maxDepth || !run.memo.running.insert(key).second) {
-    ModuleState &module = moduleAt(run.c, run.module);
-    AsnPos pos = module.ast->pos;
-    pos.line = stxTypeAt(module.tree, index).line;
-    pos.column = 1;
-    asnError(run.c.errors, pos, "circular constraint");
+  bool isCircle = run.memo.running.count(key) > 0;
+  if (isCircle || ++run.depth > maxDepth) {
+    tellFault(run, index, isCircle);
     return {};
   }
+  run.memo.running.insert(key);
   Endpoint end = freshEndpoint(run, index);
   run.memo.running.erase(key);
   run.memo.ends.emplace(key, end);

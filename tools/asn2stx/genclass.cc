@@ -4,15 +4,13 @@
 // The predefined classes have no nodes for their fields: a reference to one
 // of these leads through the module ISO8824 to a node of its type.
 
+#include "asn2stx/chain.h"
 #include "asn2stx/genfield.h"
 #include "asn2stx/gentype.h"
 #include "asn2stx/genvalue.h"
 #include "asn2stx/objsyntax.h"
 #include "asn2stx/resolve.h"
 #include <unordered_set>
-
-// References that the name of a class may run through.
-constexpr int maxChain = 1000;
 
 // Mark in `refModule` of a field reference that is followed in any case.
 constexpr int32_t fieldReferenceMark = -2;
@@ -97,9 +95,10 @@ static bool notAClass(Compilation &c, const AstRef &ref)
 }
 
 // Moves to what a parameter or a definition that is a reference names; false
-// at the end, with `found` filled or an error reported.
+// at the end, with `found` filled or an error reported. `holder` is the
+// definition that is nothing but the reference at hand.
 static bool stepClass(Compilation &c, const AstRef *&ref, const Scope *&scope,
-                      ClassUse &found, bool &good)
+                      ClassUse &found, const Definition *&holder, bool &good)
 {
   good = false;
   found.scope = scope;
@@ -124,14 +123,19 @@ static bool stepClass(Compilation &c, const AstRef *&ref, const Scope *&scope,
     if (def.assign->kind == AA_CLASS) {
       found.objectClass = def.assign->objectClass;
       found.scope = scope;
+      // `Name ::= OTHER {Actual}` is that instance's node.
       if (!isInstance)
         found.node = {def.module, def.node};
+      else if (holder)
+        found.node = {holder->module, holder->node};
       good = true;
       return false;
     }
     type = def.assign->type;
+    holder = isInstance ? nullptr : &def;
   } else {
     scope = name.binding->scope;
+    holder = nullptr;
   }
   if (!type || type->kind != AT_REFERENCE)
     return notAClass(c, *ref);
@@ -146,8 +150,10 @@ bool resolveClass(Compilation &c, const AstRef &ref, const Scope &scope,
   const AstRef *at = &ref;
   const Scope *atScope = &scope;
   bool good = false;
-  for (int steps = 0; steps < maxChain; ++steps)
-    if (!stepClass(c, at, atScope, found, good))
+  const Definition *holder = nullptr;
+  CircleGuard<std::pair<const AstRef *, const Scope *>> guard;
+  while (!guard.repeats({at, atScope}))
+    if (!stepClass(c, at, atScope, found, holder, good))
       return good;
   asnError(c.errors, ref.pos, "circular definition of %s",
            asnQuoted(ref.name).c_str());
@@ -162,7 +168,9 @@ const AstField *findClassField(const ClassUse &objectClass,
 
 bool isSameClass(const ClassUse &a, const ClassUse &b)
 {
-  return a.objectClass == b.objectClass && a.builtin == b.builtin;
+  // An instance of a class with parameters is a class of its own.
+  return a.objectClass == b.objectClass && a.builtin == b.builtin &&
+         (a.builtin != 0 || a.scope == b.scope);
 }
 
 static bool isCapitalField(const AstField &field)
@@ -431,14 +439,17 @@ NodeAt classNodeFor(Compilation &c, int into, ClassUse &objectClass)
   if (objectClass.builtin != 0)
     return {into, builtinNode(c, into, objectClass.builtin)};
   if (objectClass.node.node == 0 && objectClass.objectClass) {
-    // An instance: the class is made where it is used.
-    TNode node = newNodeFor(c, objectClass.objectClass->pos, TYP_CLASS);
-    node.hidden = 1;
-    objectClass.node = {into, stxType(treeOf(c, into), node)};
-    ++c.typeDepth;
-    genClassInto(c, into, *objectClass.scope, *objectClass.objectClass,
-                 objectClass.node.node);
-    --c.typeDepth;
+    // An instance: the class is made where it is used, once.
+    int32_t &known = c.classInstances[{into, objectClass.scope}];
+    if (known == 0) {
+      TNode node = newNodeFor(c, objectClass.objectClass->pos, TYP_CLASS);
+      node.hidden = 1;
+      node.compStatus = -TCS_HEADER;
+      known = stxType(treeOf(c, into), node);
+      genClassInto(c, into, *objectClass.scope, *objectClass.objectClass,
+                   known);
+    }
+    objectClass.node = {into, known};
   }
   return objectClass.node;
 }

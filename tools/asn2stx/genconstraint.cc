@@ -2,11 +2,14 @@
 // it is one stands in the node's flags.
 
 #include "asn2stx/genconstraint.h"
-#include "asn2stx/genobject.h"
+#include "asn2stx/chain.h"
+#include "asn2stx/fromobjects.h"
 #include "asn2stx/gentype.h"
 #include "asn2stx/genvalue.h"
+#include "asn2stx/objsyntax.h"
 #include "asn2stx/parser.h"
 #include "asn2stx/resolve.h"
+#include "asn2stx/shown.h"
 #include <algorithm>
 #include <charconv>
 
@@ -67,6 +70,12 @@ static bool isRestrictedString(int mainType)
          mainType == TYP_OBJDESCR;
 }
 
+static void doesNotApply(ElemRun &run, const AstElem &elem, const char *what)
+{
+  asnError(run.c.errors, elem.pos, "%s does not apply to %s", what,
+           typeShown(*run.parent.type).c_str());
+}
+
 // Leaves
 
 static int32_t genTable(ElemRun &run, const AstElem &elem)
@@ -98,8 +107,13 @@ static int32_t genSingleValue(ElemRun &run, const AstElem &elem)
 
 // True for a number that no record holds; as an end of a range it stands for
 // MIN or MAX.
-static bool isBeyond(const AstValue &value, bool isUpper)
+static bool isBeyond(Compilation &c, const AstValue &written,
+                     const Scope &scope, bool isUpper)
 {
+  const AstValue *at = &written;
+  const Scope *atScope = &scope;
+  skipValueParameters(c, at, atScope);
+  const AstValue &value = *at;
   if (value.kind != AV_INTEGER || (value.text[0] == '-') == isUpper)
     return false;
   int64_t number = 0;
@@ -114,7 +128,7 @@ static int32_t genRange(ElemRun &run, const AstElem &elem)
   int32_t ends[2] = {};
   const AstValue *written[2] = {elem.lower, elem.upper};
   for (size_t i = 0; i < 2; ++i)
-    if (written[i] && !isBeyond(*written[i], i == 1))
+    if (written[i] && !isBeyond(c, *written[i], run.scope, i == 1))
       ends[i] =
           genValue(c, run.into, run.scope, *written[i], run.parent, run.at);
   int kind = parentKind(run);
@@ -134,7 +148,7 @@ static int32_t genSize(ElemRun &run, const AstElem &elem)
   Compilation &c = run.c;
   int kind = parentKind(run);
   if (kind >= 0 && kind != TYP_OPEN && !isSized(kind)) {
-    asnError(c.errors, elem.pos, "SIZE does not apply to this type");
+    doesNotApply(run, elem, "SIZE");
     return 0;
   }
   NodeAt integer = {run.into, builtinNode(c, run.into, TYP_INTEGER)};
@@ -147,7 +161,7 @@ static int32_t genAlphabet(ElemRun &run, const AstElem &elem)
 {
   int kind = parentKind(run);
   if (kind >= 0 && kind != TYP_OPEN && !isRestrictedString(kind)) {
-    asnError(run.c.errors, elem.pos, "FROM does not apply to this type");
+    doesNotApply(run, elem, "FROM");
     return 0;
   }
   int32_t inner = genConstraint(run.c, run.into, run.scope, *elem.inner,
@@ -155,23 +169,65 @@ static int32_t genAlphabet(ElemRun &run, const AstElem &elem)
   return inner ? addSub(run, SUB_ALPHABET, inner) : 0;
 }
 
-static int32_t genContained(ElemRun &run, const AstElem &elem)
+static int32_t genContained(ElemRun &run, const AstType &contained);
+
+// What one object has at the end of a path.
+static int32_t genFieldOfObject(ElemRun &run, const FieldUse &field)
 {
   Compilation &c = run.c;
-  const AstType *type = elem.type;
+  ElemRun inner = {c, run.into, *field.scope, run.parent, run.at};
+  if (field.value) {
+    int32_t value =
+        genValue(c, run.into, *field.scope, *field.value, run.parent, run.at);
+    return addSub(inner, SUB_SINGLE_VALUE, value);
+  }
+  if (field.set)
+    return genConstraint(c, run.into, *field.scope, *field.set, run.parent,
+                         run.at);
+  return field.type ? genContained(inner, *field.type) : 0;
+}
+
+// The values that a path into objects leads to, as one union.
+static int32_t genFromObjects(ElemRun &run, const AstType &path)
+{
+  Compilation &c = run.c;
+  std::vector<FieldUse> fields;
+  if (!fieldsFromObjects(c, path, run.scope, fields))
+    return 0;
+  std::vector<int32_t> subs;
+  for (const FieldUse &field : fields) {
+    FieldKind kind = fieldKindOf(c, field.objectClass, *field.field);
+    if (kind == FK_OBJECT || kind == FK_OBJECT_SET) {
+      asnError(c.errors, path.fieldPos.back(), "field %s has no values",
+               fieldShown(path.fields.back()).c_str());
+      return 0;
+    }
+    if (int32_t sub = genFieldOfObject(run, field))
+      subs.push_back(sub);
+  }
+  return joinSubs(c, run.into, SUB_UNION, subs);
+}
+
+static int32_t genContained(ElemRun &run, const AstType &contained)
+{
+  Compilation &c = run.c;
+  const AstType *type = &contained;
   const Scope *scope = &run.scope;
-  for (int steps = 0; type->kind == AT_REFERENCE; ++steps) {
+  while (type->kind == AT_REFERENCE) {
     Found found = lookUp(c, type->ref, *scope);
     if (!found)
       return 0;
-    constexpr int maxSteps = 100;
     if (found.binding && found.binding->actual->set)
       return genConstraint(c, run.into, *found.binding->scope,
                            *found.binding->actual->set, run.parent, run.at);
-    if (!found.binding || !found.binding->actual->type || steps > maxSteps)
+    if (!found.binding || !found.binding->actual->type)
       break;
     type = found.binding->actual->type;
     scope = found.binding->scope;
+  }
+  if (isFromObjects(c, *type, *scope)) {
+    ElemRun inner = {c, run.into, *scope, run.parent, run.at};
+    return genFromObjects(inner, *type);
   }
   if (!baseType(c, *type, *scope).type)
     return 0;
@@ -192,7 +248,7 @@ static int32_t genElementOf(ElemRun &run, const AstElem &elem)
     return 0;
   if (!base.type->element || list.node <= 0 ||
       (base.type->kind != AT_SEQUENCE_OF && base.type->kind != AT_SET_OF)) {
-    asnError(c.errors, elem.pos, "WITH COMPONENT does not apply to this type");
+    doesNotApply(run, elem, "WITH COMPONENT");
     return 0;
   }
   NodeAt element = {list.module,
@@ -223,8 +279,8 @@ static int32_t genItem(ElemRun &run, const AstInner &item)
   const AstComp *comp = findComp(c, run.parent, item.name, scope);
   NodeAt at = comp ? findCompNode(c, run.at, item.name) : NodeAt{};
   if (!comp || !comp->type || at.node == 0) {
-    asnError(c.errors, item.pos, "the type has no component %s",
-             asnQuoted(item.name).c_str());
+    asnError(c.errors, item.pos, "%s has no component %s",
+             typeShown(*run.parent.type).c_str(), asnQuoted(item.name).c_str());
     return 0;
   }
   int32_t index = 0;
@@ -255,8 +311,7 @@ static int32_t genItems(ElemRun &run, const AstElem &elem)
         base.type->kind == AT_CHARACTER_STRING || base.type->kind == AT_REAL ||
         base.type->kind == AT_INSTANCE_OF;
     if (!isAssociated)
-      asnError(c.errors, elem.pos,
-               "WITH COMPONENTS does not apply to this type");
+      doesNotApply(run, elem, "WITH COMPONENTS");
     return 0;
   }
   std::vector<int32_t> subs;
@@ -352,7 +407,7 @@ int32_t genElement(Compilation &c, int into, const Scope &scope,
   case AE_FROM:
     return genAlphabet(run, elem);
   case AE_TYPE:
-    return genContained(run, elem);
+    return genContained(run, *elem.type);
   case AE_UNION:
     return genUnion(run, elem);
   case AE_INTERSECTION:
@@ -429,7 +484,106 @@ static bool isExtensible(const AstConstraint &constraint, int mainType)
          hasExtensibleSize(*constraint.root);
 }
 
+// Numbers beyond 64 bits
+
+static bool reachesBeyond(Compilation &c, const AstElem &elem,
+                          const Scope &scope);
+
+// True for an end that is written as a number and has no place within the
+// bounds of a node, where the limits of 64 bits stand for open ends.
+static bool isWideEnd(Compilation &c, const AstValue &written,
+                      const Scope &scope, bool isUpper)
+{
+  const AstValue *at = &written;
+  const Scope *atScope = &scope;
+  CircleGuard<std::pair<const AstValue *, const Scope *>> guard;
+  while (!guard.repeats({at, atScope})) {
+    skipValueParameters(c, at, atScope);
+    if (at->kind != AV_REFERENCE)
+      break;
+    Found found = findName(c, at->ref, *atScope);
+    if (!found.def || found.def->kind != DK_VALUE ||
+        found.def->assign->hasParams)
+      return false;
+    at = found.def->assign->value;
+    atScope = moduleAt(c, found.def->module).scope;
+  }
+  return isBeyond(c, *at, *atScope, isUpper) ||
+         (at->kind == AV_INTEGER &&
+          at->text == std::to_string(isUpper ? INT64_MAX : INT64_MIN));
+}
+
+static bool setReachesBeyond(Compilation &c, const AstConstraint *set,
+                             const Scope *scope)
+{
+  return set && set->root && scope && reachesBeyond(c, *set->root, *scope);
+}
+
+// The same of a type or value set by name, with what that refers to.
+static bool isWideType(Compilation &c, const AstType &type, const Scope &scope)
+{
+  Walk walk(c, WALK_WIDE, &type, &scope);
+  TypeUse at = {&type, &scope};
+  CircleGuard<TypeUse> guard;
+  while (walk.isGood() && at.type && !guard.repeats(at)) {
+    for (const AstConstraint *constraint : at.type->constraints)
+      if (setReachesBeyond(c, constraint, at.scope))
+        return true;
+    if (at.type->kind != AT_REFERENCE)
+      return false;
+    Found found = findName(c, at.type->ref, *at.scope);
+    if (found.binding) {
+      const AstActual &actual = *found.binding->actual;
+      if (setReachesBeyond(c, actual.set, found.binding->scope))
+        return true;
+      at = {actual.type, found.binding->scope};
+      continue;
+    }
+    if (!found.def ||
+        (found.def->kind != DK_TYPE && found.def->kind != DK_VALUE_SET))
+      return false;
+    TypeUse next = nextType(c, *at.type, *at.scope);
+    if (setReachesBeyond(c, found.def->assign->set, next.scope))
+      return true;
+    at = next;
+  }
+  return false;
+}
+
+static bool reachesBeyond(Compilation &c, const AstElem &elem,
+                          const Scope &scope)
+{
+  switch (elem.kind) {
+  case AE_RANGE:
+    return (elem.lower && isWideEnd(c, *elem.lower, scope, false)) ||
+           (elem.upper && isWideEnd(c, *elem.upper, scope, true));
+  case AE_TYPE:
+    return isWideType(c, *elem.type, scope);
+  case AE_UNION:
+  case AE_INTERSECTION:
+    return std::any_of(elem.operands.begin(), elem.operands.end(),
+                       [&](const AstElem *operand) {
+                         return reachesBeyond(c, *operand, scope);
+                       });
+  default:
+    return false;
+  }
+}
+
 // Those of one node
+
+// What else of a constraint matters to its node.
+static void noteConstraint(Compilation &c, const LateConstraints &late,
+                           const AstConstraint &constraint, const Scope &scope,
+                           TypeUse parent)
+{
+  std::pair<int, int32_t> node = {late.into, late.node};
+  TypeUse base = baseType(c, *parent.type, *parent.scope);
+  if (base.type && base.type->kind == AT_INTEGER && constraint.root &&
+      reachesBeyond(c, *constraint.root, scope))
+    c.wideNodes.insert(node);
+  c.places.insert({node, {constraint.pos, typeShown(*parent.type)}});
+}
 
 static void genNodeConstraints(Compilation &c, const LateConstraints &late)
 {
@@ -437,23 +591,26 @@ static void genNodeConstraints(Compilation &c, const LateConstraints &late)
   NodeAt at = {late.into, late.node};
   TypeUse parent;
   const AstConstraint *last = nullptr;
-  if (late.set) {
-    parent = {late.governor, late.setScope};
-    last = late.set;
+  auto add = [&](const AstConstraint &constraint, const Scope &scope,
+                 TypeUse constrained) {
+    parent = constrained;
+    last = &constraint;
     int32_t sub =
-        genConstraint(c, late.into, *late.setScope, *late.set, parent, at);
+        genConstraint(c, late.into, scope, constraint, constrained, at);
+    noteConstraint(c, late, constraint, scope, constrained);
     if (sub)
       subs.push_back(sub);
-  }
+  };
+  auto addAll = [&](TypeUse layer) {
+    for (const AstConstraint *constraint : layer.type->constraints)
+      add(*constraint, *layer.scope, layer);
+  };
+  if (late.inPlace.type)
+    addAll(late.inPlace);
+  if (late.set)
+    add(*late.set, *late.setScope, {late.governor, late.setScope});
   for (auto layer = late.layers.rbegin(); layer != late.layers.rend(); ++layer)
-    for (const AstConstraint *constraint : layer->type->constraints) {
-      parent = *layer;
-      last = constraint;
-      int32_t sub =
-          genConstraint(c, late.into, *layer->scope, *constraint, parent, at);
-      if (sub)
-        subs.push_back(sub);
-    }
+    addAll(*layer);
   int32_t first = joinSubs(c, late.into, SUB_CATENATED, subs);
   TypeUse base = last ? baseType(c, *parent.type, *parent.scope) : TypeUse{};
   TNode &node = stxTypeAt(treeOf(c, late.into), late.node);

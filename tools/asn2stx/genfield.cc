@@ -3,27 +3,11 @@
 // from the text, so that objects need no records yet.
 
 #include "asn2stx/genfield.h"
+#include "asn2stx/chain.h"
 #include "asn2stx/gentype.h"
 #include "asn2stx/objsyntax.h"
 #include "asn2stx/resolve.h"
-
-// References that an object may run through, and searches within searches.
-constexpr int maxChain = 1000;
-constexpr int maxWalkDepth = 100;
-
-// Counts one search within another while it lives; too many are a circle.
-struct FieldWalk {
-  Compilation &c;
-  bool good = true;
-  FieldWalk(Compilation &compilation, AsnPos pos) : c(compilation)
-  {
-    good = ++c.walkDepth <= maxWalkDepth;
-    if (!good)
-      asnError(c.errors, pos, "circular definition");
-  }
-  ~FieldWalk() { --c.walkDepth; }
-  FieldWalk(const FieldWalk &) = delete;
-};
+#include "asn2stx/shown.h"
 
 static bool noField(Compilation &c, AsnPos pos, const char *what,
                     const std::string &name)
@@ -104,12 +88,14 @@ static bool stepField(Compilation &c, ObjectWalk &walk)
 bool resolveObject(Compilation &c, const AstValue &value, const Scope &scope,
                    const ClassUse *objectClass, ObjectUse &found)
 {
-  FieldWalk depth(c, value.pos);
+  Walk search(c, WALK_OBJECT, &value, &scope);
+  tellWalk(search, value.pos, valueShown(value));
   ObjectWalk walk = {&value, &scope, {}, objectClass != nullptr};
   if (objectClass)
     walk.objectClass = *objectClass;
-  bool good = depth.good;
-  for (int steps = 0; good && steps < maxChain; ++steps) {
+  bool good = search.isGood();
+  CircleGuard<std::pair<const AstValue *, const Scope *>> guard;
+  while (good && !guard.repeats({walk.value, walk.scope})) {
     if (!walk.value)
       return false;
     if (walk.value->kind == AV_REFERENCE) {
@@ -121,25 +107,28 @@ bool resolveObject(Compilation &c, const AstValue &value, const Scope &scope,
                walk.value->pos};
       return true;
     } else {
-      asnError(c.errors, walk.value->pos, "an object is needed here");
+      asnError(c.errors, walk.value->pos, "an object is needed here, not %s",
+               valueShown(*walk.value).c_str());
       return false;
     }
   }
   if (good)
-    asnError(c.errors, value.pos, "circular definition");
+    asnError(c.errors, value.pos, "circular definition of %s",
+             valueShown(value).c_str());
   return false;
 }
 
 bool objectOfRef(Compilation &c, const AstRef &ref, const Scope &scope,
                  ObjectUse &found)
 {
-  FieldWalk depth(c, ref.pos);
+  Walk search(c, WALK_OBJECT_NAME, &ref, &scope);
+  tellWalk(search, ref.pos, asnQuoted(ref.name));
   AstValue value;
   value.kind = AV_REFERENCE;
   value.pos = ref.pos;
   value.ref = ref;
   ObjectWalk walk = {&value, &scope, {}, false};
-  return depth.good && stepReference(c, walk, ref) &&
+  return search.isGood() && stepReference(c, walk, ref) &&
          resolveObject(c, *walk.value, *walk.scope, &walk.objectClass, found);
 }
 
@@ -163,9 +152,8 @@ static bool takeDefault(FieldUse &use)
   return use.type || use.value || use.set;
 }
 
-// One field of one object.
-static bool settingOf(Compilation &c, const ObjectUse &object,
-                      const std::string &name, AsnPos pos, FieldUse &found)
+bool settingOf(Compilation &c, const ObjectUse &object, const std::string &name,
+               AsnPos pos, bool mayLack, FieldUse &found)
 {
   const AstField *field = findClassField(object.objectClass, name);
   if (!field)
@@ -182,7 +170,7 @@ static bool settingOf(Compilation &c, const ObjectUse &object,
       found.set = setting.set;
       return found.type || found.value || found.set;
     }
-  return takeDefault(found) || noField(c, pos, "object", name);
+  return takeDefault(found) || (!mayLack && noField(c, pos, "object", name));
 }
 
 bool resolveFieldPath(Compilation &c, ObjectUse object,
@@ -190,7 +178,7 @@ bool resolveFieldPath(Compilation &c, ObjectUse object,
                       const std::vector<AsnPos> &fieldPos, FieldUse &found)
 {
   for (size_t i = 0; i < fields.size(); ++i) {
-    if (!settingOf(c, object, fields[i], fieldPos[i], found))
+    if (!settingOf(c, object, fields[i], fieldPos[i], false, found))
       return false;
     if (i + 1 == fields.size())
       return true;
@@ -214,11 +202,13 @@ bool resolveFieldValue(Compilation &c, const AstValue &value,
                        const Scope &scope, const AstValue *&found,
                        const Scope *&foundScope)
 {
-  FieldWalk depth(c, value.pos);
+  Walk search(c, WALK_FIELD, &value, &scope);
+  tellWalk(search, value.pos, valueShown(value));
   const AstValue *at = &value;
   const Scope *atScope = &scope;
-  bool good = depth.good;
-  for (int steps = 0; good && steps < maxChain; ++steps) {
+  bool good = search.isGood();
+  CircleGuard<std::pair<const AstValue *, const Scope *>> guard;
+  while (good && !guard.repeats({at, atScope})) {
     skipValueParameters(c, at, atScope);
     if (at->kind != AV_FIELD) {
       found = at;
@@ -240,18 +230,20 @@ bool resolveFieldValue(Compilation &c, const AstValue &value,
     }
   }
   if (good)
-    asnError(c.errors, value.pos, "circular definition");
+    asnError(c.errors, value.pos, "circular definition of %s",
+             valueShown(value).c_str());
   return false;
 }
 
 TypeUse variableTypeOf(Compilation &c, const ObjectUse &object,
                        const AstField &field, AsnPos pos)
 {
-  FieldWalk depth(c, pos);
+  Walk search(c, WALK_VARIABLE_TYPE, &field, object.scope);
+  tellWalk(search, pos, fieldShown(field.name));
   FieldUse type;
   const std::vector<std::string> &path = field.governor->fields;
   const std::vector<AsnPos> places(path.size(), pos);
-  if (!depth.good || !resolveFieldPath(c, object, path, places, type))
+  if (!search.isGood() || !resolveFieldPath(c, object, path, places, type))
     return {};
   return {type.type, type.scope};
 }
@@ -301,9 +293,7 @@ int32_t settingTypeNode(Compilation &c, int into, const Scope &scope,
   return genHiddenType(c, into, scope, type);
 }
 
-// A scope in which a name that no text can have stands for the governor: the
-// set and its governor may come from different modules.
-static TypeUse governorIn(Compilation &c, TypeUse governor, const Scope &scope)
+TypeUse governorIn(Compilation &c, TypeUse governor, const Scope &scope)
 {
   if (governor.scope == &scope)
     return governor;
@@ -328,6 +318,7 @@ int32_t hiddenValueSet(Compilation &c, int into, TypeUse governor,
 {
   TNode node = newNodeFor(c, set.pos, TYP_NONE);
   node.hidden = 1;
+  node.compStatus = -TCS_HEADER;
   int32_t index = stxType(treeOf(c, into), node);
   TypeUse use = governorIn(c, governor, scope);
   genValueSetInto(c, into, *use.scope, *use.type, set, index);
@@ -392,9 +383,8 @@ static bool stepsOf(Compilation &c, const AstType &type, const Scope &scope,
   return !steps.empty();
 }
 
-// What `object.&Type` is; of a value set, the set's governor.
-static bool typeInObject(Compilation &c, const AstType &type,
-                         const Scope &scope, FieldUse &found)
+bool typeInObject(Compilation &c, const AstType &type, const Scope &scope,
+                  FieldUse &found)
 {
   ObjectUse object;
   if (!objectOfRef(c, type.ref, scope, object) ||
@@ -413,9 +403,6 @@ TypeUse fieldTypeOf(Compilation &c, const AstType &type, const Scope &scope)
 {
   // A bare &field stands in a class only, for the type of another field.
   if (type.ref.name.empty() || type.fields.empty())
-    return {};
-  FieldWalk depth(c, type.pos);
-  if (!depth.good)
     return {};
   if (isObjectName(type.ref)) {
     FieldUse found;
@@ -436,21 +423,6 @@ TypeUse fieldTypeOf(Compilation &c, const AstType &type, const Scope &scope)
 }
 
 // Nodes
-
-static void genTypeOfObject(Compilation &c, int into, const Scope &scope,
-                            const AstType &type, int32_t node)
-{
-  FieldUse found;
-  if (!typeInObject(c, type, scope, found))
-    return;
-  int32_t target =
-      found.type
-          ? settingTypeNode(c, into, *found.scope, *found.type)
-          : hiddenValueSet(c, into,
-                           {found.field->governor, found.objectClass.scope},
-                           *found.set, *found.scope);
-  makeSynonym(c, into, node, {into, target});
-}
 
 // A field of a predefined class: the link leads to ISO8824, and `ref` to the
 // type.
@@ -521,8 +493,7 @@ void genFieldTypeInto(Compilation &c, int into, const Scope &scope,
     asnError(c.errors, type.pos, "a field without its class");
     return;
   }
-  if (isObjectName(type.ref))
-    genTypeOfObject(c, into, scope, type, node);
-  else
+  // What an object has there was put in its place, or an error was told.
+  if (!isObjectName(type.ref))
     genTypeOfClass(c, into, scope, type, node);
 }

@@ -62,6 +62,19 @@ bool resolveFieldPath(Compilation &c, ObjectUse object,
                       const std::vector<std::string> &fields,
                       const std::vector<AsnPos> &fieldPos, FieldUse &found);
 
+// One field of one object; false, reported unless `mayLack`, if it has no
+// setting and no default.
+bool settingOf(Compilation &c, const ObjectUse &object, const std::string &name,
+               AsnPos pos, bool mayLack, FieldUse &found);
+
+// What `object.&Type` is, or a value set; false, reported, if it is neither.
+bool typeInObject(Compilation &c, const AstType &type, const Scope &scope,
+                  FieldUse &found);
+
+// The governor in a scope below `scope`, where a name that no text can have
+// stands for it: a set and its governor may come from different modules.
+TypeUse governorIn(Compilation &c, TypeUse governor, const Scope &scope);
+
 // The object that `reference.&field...` begins with.
 bool objectOfRef(Compilation &c, const AstRef &ref, const Scope &scope,
                  ObjectUse &found);

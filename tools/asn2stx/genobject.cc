@@ -3,12 +3,14 @@
 // are objects, or that carry the node of another set.
 
 #include "asn2stx/genobject.h"
+#include "asn2stx/fromobjects.h"
 #include "asn2stx/genconstraint.h"
 #include "asn2stx/genfield.h"
 #include "asn2stx/gentype.h"
 #include "asn2stx/genvalue.h"
 #include "asn2stx/objsyntax.h"
 #include "asn2stx/resolve.h"
+#include "asn2stx/shown.h"
 #include <set>
 
 // Sets within sets and objects within objects; values of one tree.
@@ -22,16 +24,19 @@ constexpr int maxInstances = 100000;
 struct ObjectDepth {
   Compilation &c;
   bool good = true;
-  ObjectDepth(Compilation &compilation, int into, AsnPos pos) : c(compilation)
+  ObjectDepth(Compilation &compilation, int into, AsnPos pos,
+              const std::string &shown)
+      : c(compilation)
   {
     bool tooMany = treeOf(c, into).vNodes.size() > maxValueNodes;
-    good = ++c.walkDepth <= maxNesting && !tooMany && !c.exhausted;
+    good = ++c.objectDepth <= maxNesting && !tooMany && !c.exhausted;
     // Once is enough: it would be told again for each level.
     if (!good && !c.exhausted)
-      asnError(c.errors, pos, "objects are nested too deeply");
+      asnError(c.errors, pos, "%s: objects are nested too deeply",
+               shown.c_str());
     c.exhausted = c.exhausted || !good;
   }
-  ~ObjectDepth() { --c.walkDepth; }
+  ~ObjectDepth() { --c.objectDepth; }
   ObjectDepth(const ObjectDepth &) = delete;
 };
 
@@ -219,7 +224,7 @@ static const Definition *plainObject(Compilation &c, const AstValue &value,
 void genObject(Compilation &c, int into, const Scope &scope,
                ClassUse &objectClass, const AstValue &value, int32_t node)
 {
-  ObjectDepth depth(c, into, value.pos);
+  ObjectDepth depth(c, into, value.pos, valueShown(value));
   if (!depth.good)
     return;
   NodeAt at = classNodeFor(c, into, objectClass);
@@ -228,7 +233,8 @@ void genObject(Compilation &c, int into, const Scope &scope,
   if (!resolveObject(c, value, scope, &objectClass, object))
     return;
   if (!isSameClass(object.objectClass, objectClass)) {
-    asnError(c.errors, value.pos, "the object is of another class");
+    asnError(c.errors, value.pos, "%s is an object of another class",
+             valueShown(value).c_str());
     return;
   }
   if (const Definition *def = plainObject(c, value, scope)) {
@@ -265,6 +271,7 @@ struct SetRun {
 };
 
 static int32_t genElem(SetRun &run, const Scope &scope, const AstElem &elem);
+static int32_t genSetElem(SetRun &run, const Scope &scope, const AstType &type);
 static int32_t genSetBody(SetRun &run, const Scope &scope,
                           const AstConstraint &set);
 
@@ -287,7 +294,8 @@ static int32_t genObjectElem(SetRun &run, const Scope &scope,
     if (!resolveObject(c, value, scope, run.objectClass, object))
       return 0;
     if (run.objectClass && !isSameClass(*run.objectClass, object.objectClass))
-      asnError(c.errors, value.pos, "the object is of another class");
+      asnError(c.errors, value.pos, "%s is an object of another class",
+               valueShown(value).c_str());
     else
       objectSettings(c.ast, c.errors, classText(object.objectClass),
                      *object.braces);
@@ -333,7 +341,8 @@ static int32_t genInPlace(SetRun &run, const Scope &scope,
     return 0;
   if (++c.instantiations <= maxInstances)
     return genSetBody(run, scope, set);
-  asnError(c.errors, set.pos, "object sets are nested too deeply");
+  asnError(c.errors, set.pos, "more than %d object sets are written out",
+           maxInstances);
   c.exhausted = true;
   return 0;
 }
@@ -343,7 +352,7 @@ static int32_t genInPlace(SetRun &run, const Scope &scope,
 static int32_t genIncluded(SetRun &run, const Scope &scope, const AstRef &ref)
 {
   Compilation &c = run.c;
-  ObjectDepth depth(c, run.into, ref.pos);
+  ObjectDepth depth(c, run.into, ref.pos, asnQuoted(ref.name));
   if (!depth.good || !checkSetClass(run, ref, scope))
     return 0;
   Found found = findName(c, ref, scope);
@@ -352,8 +361,9 @@ static int32_t genIncluded(SetRun &run, const Scope &scope, const AstRef &ref)
     const Scope &outer = *found.binding->scope;
     if (actual.set)
       return genInPlace(run, outer, *actual.set);
-    if (actual.type && actual.type->kind == AT_REFERENCE)
-      return genIncluded(run, outer, actual.type->ref);
+    if (actual.type && (actual.type->kind == AT_REFERENCE ||
+                        isFromObjects(c, *actual.type, outer)))
+      return genSetElem(run, outer, *actual.type);
     asnError(c.errors, ref.pos, "%s is not an object set",
              asnQuoted(ref.name).c_str());
     return 0;
@@ -372,48 +382,57 @@ static int32_t genIncluded(SetRun &run, const Scope &scope, const AstRef &ref)
   return includeNode(run, localReference(c, run.into, {def.module, def.node}));
 }
 
-// `object.&Set`.
-static int32_t genSetOfObject(SetRun &run, const Scope &scope,
-                              const AstType &type)
+// What one object has at the end of a path: an object or a set of them.
+static int32_t genFieldOfObject(SetRun &run, const FieldUse &field,
+                                const AstType &path)
 {
   Compilation &c = run.c;
-  ObjectDepth depth(c, run.into, type.pos);
-  ObjectUse object;
-  FieldUse field;
+  FieldKind kind = fieldKindOf(c, field.objectClass, *field.field);
   ClassUse inner;
-  if (!depth.good || !objectOfRef(c, type.ref, scope, object) ||
-      !resolveFieldPath(c, object, type.fields, type.fieldPos, field))
-    return 0;
-  bool isSet = fieldKindOf(c, field.objectClass, *field.field) == FK_OBJECT_SET;
-  if (!isSet || !resolveClass(c, field.field->governor->ref,
-                              *field.objectClass.scope, inner)) {
-    asnError(c.errors, type.fieldPos.back(), "field %s is no object set",
-             fieldShown(type.fields.back()).c_str());
+  bool isObjects = kind == FK_OBJECT || kind == FK_OBJECT_SET;
+  if (!isObjects || !resolveClass(c, field.field->governor->ref,
+                                  *field.objectClass.scope, inner)) {
+    asnError(c.errors, path.fieldPos.back(), "field %s is no object set",
+             fieldShown(path.fields.back()).c_str());
     return 0;
   }
   if (run.objectClass && !isSameClass(*run.objectClass, inner)) {
-    asnError(c.errors, type.pos, "the set is of another class");
+    asnError(c.errors, path.pos, "%s is a set of another class",
+             typeShown(path).c_str());
     return 0;
   }
+  if (field.value)
+    return genObjectElem(run, *field.scope, *field.value);
   if (field.set)
     return genInPlace(run, *field.scope, *field.set);
-  if (field.type && field.type->kind == AT_REFERENCE)
-    return genIncluded(run, *field.scope, field.type->ref);
-  return 0;
+  return field.type ? genSetElem(run, *field.scope, *field.type) : 0;
 }
 
-static bool isObjectName(const AstRef &ref)
+// `object.&Set`, `ObjectSet.&object` and the like.
+static int32_t genFromObjects(SetRun &run, const Scope &scope,
+                              const AstType &path)
 {
-  return !ref.name.empty() && ref.name[0] >= 'a' && ref.name[0] <= 'z';
+  Compilation &c = run.c;
+  ObjectDepth depth(c, run.into, path.pos, typeShown(path));
+  std::vector<FieldUse> fields;
+  if (!depth.good || !fieldsFromObjects(c, path, scope, fields))
+    return 0;
+  std::vector<int32_t> subs;
+  for (const FieldUse &field : fields)
+    if (int32_t sub = genFieldOfObject(run, field, path))
+      subs.push_back(sub);
+  return joinSubs(c, run.into, SUB_UNION, subs);
 }
 
 static int32_t genSetElem(SetRun &run, const Scope &scope, const AstType &type)
 {
   if (type.kind == AT_REFERENCE)
     return genIncluded(run, scope, type.ref);
-  if (type.kind == AT_FIELD && isObjectName(type.ref))
-    return genSetOfObject(run, scope, type);
-  asnError(run.c.errors, type.pos, "an object or object set is needed here");
+  if (isFromObjects(run.c, type, scope))
+    return genFromObjects(run, scope, type);
+  asnError(run.c.errors, type.pos,
+           "an object or object set is needed here, not %s",
+           typeShown(type).c_str());
   return 0;
 }
 
@@ -524,6 +543,7 @@ static int32_t hiddenObjectSet(Compilation &c, int into, const Scope &scope,
 {
   TNode fresh = newNodeFor(c, set.pos, TYP_SYNONYM);
   fresh.hidden = 1;
+  fresh.compStatus = -TCS_HEADER;
   int32_t node = stxType(treeOf(c, into), fresh);
   NodeAt target = classNodeFor(c, into, objectClass);
   genSetNode(c, into, scope, objectClass, target, set, node);

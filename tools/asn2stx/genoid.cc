@@ -4,6 +4,7 @@
 #include "asn2stx/gentype.h"
 #include "asn2stx/genvalue.h"
 #include "asn2stx/resolve.h"
+#include "asn2stx/shown.h"
 #include <limits>
 
 typedef std::vector<int64_t> OidArcs;
@@ -127,7 +128,8 @@ static bool addArc(Compilation &c, const Scope &scope, const AstArc &arc,
   if (!arcNumber(c, scope, arc, number))
     return false;
   if (number < 0) {
-    asnError(c.errors, arc.pos, "an arc is negative");
+    asnError(c.errors, arc.pos, "arc %lld is negative",
+             static_cast<long long>(number));
     return false;
   }
   arcs.push_back(number);
@@ -137,12 +139,10 @@ static bool addArc(Compilation &c, const Scope &scope, const AstArc &arc,
 static bool oidArcs(Compilation &c, const Scope &scope, const AstValue &value,
                     bool isRelative, OidArcs &arcs)
 {
-  constexpr int maxDepth = 60;
-  if (c.walkDepth > maxDepth) {
-    asnError(c.errors, value.pos, "circular definition");
+  Walk walk(c, WALK_OID, &value, &scope);
+  tellWalk(walk, value.pos, valueShown(value));
+  if (!walk.isGood())
     return false;
-  }
-  ++c.walkDepth;
   const AstValue *at = &value;
   const Scope *atScope = &scope;
   skipValueParameters(c, at, atScope);
@@ -167,7 +167,6 @@ static bool oidArcs(Compilation &c, const Scope &scope, const AstValue &value,
   } else {
     valueMisfit(c, *at);
   }
-  --c.walkDepth;
   return good;
 }
 

@@ -3,6 +3,7 @@
 
 #include "asn2stx/genvalue.h"
 #include "asn2stx/resolve.h"
+#include "asn2stx/shown.h"
 #include <algorithm>
 #include <cctype>
 #include <limits>
@@ -110,7 +111,8 @@ static void genCharacters(Compilation &c, int into, const AstValue &value,
                                            : 0xFF;
   if (std::any_of(text.begin(), text.end(),
                   [&](char32_t point) { return point > most; })) {
-    asnError(c.errors, value.pos, "a character is beyond the type");
+    asnError(c.errors, value.pos, "%s has a character beyond the type",
+             valueShown(value).c_str());
     return;
   }
   if (text.size() <= maxChars)

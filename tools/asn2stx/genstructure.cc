@@ -3,6 +3,7 @@
 
 #include "asn2stx/gentype.h"
 #include "asn2stx/resolve.h"
+#include "asn2stx/shown.h"
 #include <unordered_map>
 #include <unordered_set>
 
@@ -40,11 +41,15 @@ static void addComp(CompsRun &run, const AstComp &comp, int32_t father)
   bool isCompsOf = comp.kind == AC_COMPONENTS_OF;
   node.compStatus = isCompsOf ? TCS_COMPOF : compStatusOf(comp);
   if (run.type.kind == AT_CHOICE && isCompsOf) {
-    asnError(c.errors, comp.pos, "COMPONENTS OF in a CHOICE");
+    asnError(c.errors, comp.pos, "COMPONENTS OF %s in a CHOICE",
+             typeShown(*comp.type).c_str());
     return;
   }
   int32_t index = stxAddComp(treeOf(c, run.into), father, comp.name, node);
   checkName(run, comp, index);
+  if (isCompsOf)
+    c.places.insert(
+        {{run.into, index}, {comp.type->pos, typeShown(*comp.type)}});
   if (!comp.notes.empty())
     moduleAt(c, run.into).typeNotes.push_back({index, &comp.notes});
   genTypeInto(c, run.into, run.scope, *comp.type, index);

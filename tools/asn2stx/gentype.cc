@@ -5,21 +5,17 @@
 // parameterised definition and the copy that is made for it.
 
 #include "asn2stx/gentype.h"
+#include "asn2stx/chain.h"
+#include "asn2stx/fromobjects.h"
 #include "asn2stx/genconstraint.h"
-#include "asn2stx/genobject.h"
 #include "asn2stx/genvalue.h"
 #include "asn2stx/resolve.h"
+#include "asn2stx/shown.h"
 #include <limits>
 
-// Instances within instances, instances of one run, types within types, and
-// nodes of one tree.
-constexpr int maxInstanceDepth = 64;
-constexpr int maxInstances = 100000;
+// Types within types, and nodes of one tree.
 constexpr int maxTypeDepth = 1000;
 constexpr size_t maxTypeNodes = 1000000;
-
-// References that one chain may have.
-constexpr int maxChain = 1000;
 
 static TNode &nodeAt(Compilation &c, int into, int32_t node)
 {
@@ -32,47 +28,6 @@ TNode newNodeFor(const Compilation &c, AsnPos pos, int mainType)
   node.line = pos.line;
   node.nestedInstance = c.nesting > 0 ? 1 : 0;
   return node;
-}
-
-// Instances
-
-static bool isWithinLimits(Compilation &c, const AstRef &ref,
-                           const Scope &scope)
-{
-  if (c.exhausted)
-    return false;
-  bool good = scope.depth < maxInstanceDepth && c.instantiations < maxInstances;
-  if (!good) {
-    asnError(c.errors, ref.pos,
-             "%s: parameterized definitions are nested too deeply",
-             asnQuoted(ref.name).c_str());
-    // What follows would be the same once more for each of the levels.
-    c.exhausted = true;
-  }
-  return good;
-}
-
-const Scope *instantiate(Compilation &c, const Definition &def,
-                         const AstRef &ref, const Scope &scope)
-{
-  auto made = c.instances.find({&ref, &scope});
-  if (made != c.instances.end())
-    return made->second;
-  const std::vector<AstParam> &params = def.assign->params;
-  if (params.size() != ref.actuals.size() ||
-      def.assign->hasParams != ref.hasActuals) {
-    asnError(c.errors, ref.pos, "%s needs %zu parameters, not %zu",
-             asnQuoted(ref.name).c_str(), params.size(), ref.actuals.size());
-    return nullptr;
-  }
-  if (!isWithinLimits(c, ref, scope))
-    return nullptr;
-  Scope &inner = c.scopes.emplace_back();
-  inner.module = def.module;
-  inner.depth = scope.depth + 1;
-  for (size_t i = 0; i < params.size(); ++i)
-    inner.bindings.push_back({&params[i], ref.actuals[i], &scope});
-  return c.instances[{&ref, &scope}] = &inner;
 }
 
 // References
@@ -100,6 +55,7 @@ int32_t localReference(Compilation &c, int into, NodeAt target)
     return known;
   TNode node = stxNewTNode(TYP_SYNONYM);
   node.hidden = 1;
+  node.compStatus = -TCS_HEADER;
   known = stxType(treeOf(c, into), node);
   makeSynonym(c, into, known, target);
   return known;
@@ -111,6 +67,7 @@ int32_t builtinNode(Compilation &c, int into, int mainType)
   if (known == 0) {
     TNode node = stxNewTNode(mainType);
     node.hidden = 1;
+    node.compStatus = -TCS_HEADER;
     known = stxType(treeOf(c, into), node);
   }
   return known;
@@ -122,7 +79,8 @@ int32_t builtinNode(Compilation &c, int into, int mainType)
 // replace none.
 static bool isUntagged(Compilation &c, TypeUse at)
 {
-  for (int steps = 0; steps < maxChain && at.type; ++steps) {
+  CircleGuard<TypeUse> guard;
+  while (at.type && !guard.repeats(at)) {
     AstTypeKind kind = at.type->kind;
     if (kind == AT_CHOICE || kind == AT_ANY)
       return true;
@@ -146,6 +104,14 @@ static bool isExplicit(Compilation &c, const AstTag &tag, const Scope &scope)
   return tags == TAGS_NONE || tags == TAGS_EXPLICIT;
 }
 
+// True for the name of a parameter: a tag ahead of it is explicit, whatever
+// it stands for, X.680 (2002) 30.6 c.
+static bool isDummy(Compilation &c, const TypeUse &use)
+{
+  return use.type->kind == AT_REFERENCE &&
+         findName(c, use.type->ref, *use.scope).binding;
+}
+
 // The codes of tag records by AstTagClass.
 static const int tagClasses[] = {2, 0, 1, 3};
 
@@ -156,7 +122,8 @@ static void genTag(Compilation &c, int into, const AstTag &tag,
   if (!tag.number || !integerOf(c, scope, *tag.number, {}, number))
     return;
   if (number < 0 || number > std::numeric_limits<int32_t>::max()) {
-    asnError(c.errors, tag.number->pos, "a tag number is out of range");
+    asnError(c.errors, tag.number->pos, "tag number %lld is out of range",
+             static_cast<long long>(number));
     return;
   }
   stxAddTag(treeOf(c, into), node, tagClasses[tag.tagClass],
@@ -169,16 +136,20 @@ static void genTags(Compilation &c, int into, const TypeLayers &layers,
   struct Place {
     const AstTag *tag;
     const Scope *scope;
+    bool isOnDummy;
   };
   std::vector<Place> places;
   for (const TypeUse &layer : layers)
     for (const AstTag &tag : layer.type->tags)
-      places.push_back({&tag, layer.scope});
+      places.push_back({&tag, layer.scope,
+                        &tag == &layer.type->tags.back() && isDummy(c, layer)});
   for (size_t i = 0; i < places.size(); ++i) {
+    const Place &place = places[i];
     bool isLast = i + 1 == places.size();
-    bool mode = isExplicit(c, *places[i].tag, *places[i].scope) ||
+    bool mode = isExplicit(c, *place.tag, *place.scope) ||
+                (place.isOnDummy && place.tag->mode == MODE_NONE) ||
                 (isLast && isUntagged(c, layers.back()));
-    genTag(c, into, *places[i].tag, *places[i].scope, mode, node);
+    genTag(c, into, *place.tag, *place.scope, mode, node);
   }
   // Types without a code: their own universal tags, which replace that of
   // the code they are written with.
@@ -225,8 +196,12 @@ static void genSelection(Compilation &c, int into, const Scope &scope,
   TNode &selection = nodeAt(c, into, node);
   selection.ref = choice;
   selection.refModule = 1;
-  c.lateSelections.push_back(
-      {into, node, {into, choice}, type.elementName, type.pos});
+  c.lateSelections.push_back({into,
+                              node,
+                              {into, choice},
+                              type.elementName,
+                              typeShown(element),
+                              type.pos});
 }
 
 void finishSelections(Compilation &c)
@@ -234,8 +209,8 @@ void finishSelections(Compilation &c)
   for (const LateSelection &late : c.lateSelections) {
     NodeAt found = findCompNode(c, late.choice, late.name);
     if (found.node == 0) {
-      asnError(c.errors, late.pos, "the CHOICE has no alternative %s",
-               asnQuoted(late.name).c_str());
+      asnError(c.errors, late.pos, "%s has no alternative %s",
+               late.shown.c_str(), asnQuoted(late.name).c_str());
       continue;
     }
     int32_t number = moduleNumber(c, late.into, found.module);
@@ -278,28 +253,52 @@ static void genContent(Compilation &c, int into, const TypeUse &use,
   }
 }
 
-// A value set on a node; `layers` are upon it. A governor of its own has its
-// constraints and items on a node of its own.
+// What a governor is behind parameters.
+static TypeUse actualGovernor(Compilation &c, TypeUse governor)
+{
+  while (governor.type->kind == AT_REFERENCE && governor.type->tags.empty() &&
+         governor.type->constraints.empty()) {
+    Found found = findName(c, governor.type->ref, *governor.scope);
+    if (!found.binding || !found.binding->actual->type)
+      break;
+    governor = {found.binding->actual->type, found.binding->scope};
+  }
+  return governor;
+}
+
+// A value set on a node; `layers` are upon it. A governor that is written out
+// has its content on the node; but that of a set within an object, whose
+// values are counted without its constraints, has a node of its own.
 static void genSet(Compilation &c, int into, TypeLayers layers,
                    TypeUse governor, const AstConstraint &set, int32_t node)
 {
-  int32_t at = governorNode(c, into, *governor.scope, *governor.type);
-  TNode &filled = nodeAt(c, into, node);
-  filled.classFlags |= CF_SET;
-  const AstType &type = *governor.type;
-  bool isPlain = type.kind <= AT_GENERALIZED_TIME && type.tags.empty() &&
-                 type.constraints.empty() && type.named.empty();
-  if (isPlain)
-    filled.mainType = static_cast<uint8_t>(mainTypeOf(type));
-  else
-    makeSynonym(c, into, node, {into, at});
+  TypeUse actual = actualGovernor(c, governor);
+  const AstType &type = *actual.type;
+  bool isName = type.kind == AT_REFERENCE || type.kind == AT_FIELD ||
+                type.kind == AT_SELECTION;
+  bool isBare = type.kind <= AT_GENERALIZED_TIME && type.tags.empty() &&
+                type.constraints.empty() && type.named.empty();
+  const TNode &empty = nodeAt(c, into, node);
+  bool isWithinObject = empty.hidden != 0 && empty.identifier == 0;
   LateConstraints late;
   late.into = into;
-  late.layers = std::move(layers);
+  late.layers = layers;
   late.set = &set;
   late.setScope = governor.scope;
   late.governor = governor.type;
   late.node = node;
+  if (!isName && (isBare || !isWithinObject)) {
+    late.inPlace = actual;
+    layers.push_back(actual);
+    genTags(c, into, layers, node);
+    genContent(c, into, actual, node);
+  } else {
+    if (!layers.empty())
+      genTags(c, into, layers, node);
+    makeSynonym(c, into, node,
+                {into, governorNode(c, into, *actual.scope, type)});
+  }
+  nodeAt(c, into, node).classFlags |= CF_SET;
   c.lateConstraints.push_back(std::move(late));
 }
 
@@ -310,18 +309,98 @@ void genValueSetInto(Compilation &c, int into, const Scope &scope,
   genSet(c, into, {}, {&governor, &scope}, set, node);
 }
 
-// The copy that is made for the use of a parameterised definition: a hidden
-// header that the use refers to.
-static void genInstance(Compilation &c, int into, TypeLayers layers,
-                        const Definition &def, int32_t node)
+static bool hasConstraints(const TypeLayers &layers)
 {
-  TypeUse use = layers.back();
-  const Scope *inner = instantiate(c, def, use.type->ref, *use.scope);
-  // One scope may be copied many times.
-  ++c.instantiations;
-  if (!inner || !isWithinLimits(c, use.type->ref, *use.scope))
+  for (const TypeUse &layer : layers)
+    if (!layer.type->constraints.empty())
+      return true;
+  return false;
+}
+
+static void deferConstraints(Compilation &c, int into, TypeLayers layers,
+                             int32_t node)
+{
+  if (!hasConstraints(layers))
     return;
-  ++c.nesting;
+  LateConstraints late;
+  late.into = into;
+  late.layers = std::move(layers);
+  late.node = node;
+  c.lateConstraints.push_back(std::move(late));
+}
+
+// Makes the node a reference back to the instance that it lies in; false if
+// no such instance is being made.
+static bool refersBack(Compilation &c, int into, TypeLayers &layers,
+                       const Scope *instance, int32_t node)
+{
+  for (OpenInstance &open : c.openInstances) {
+    if (open.into != into || open.scope != instance)
+      continue;
+    // Tells what is nothing but a reference to itself.
+    TypeUse use = layers.back();
+    if (!baseType(c, *use.type, *use.scope).type)
+      return true;
+    genTags(c, into, layers, node);
+    // What it refers to is known when the instance is complete.
+    makeSynonym(c, into, node, {into, node});
+    open.references.push_back(node);
+    deferConstraints(c, into, std::move(layers), node);
+    return true;
+  }
+  return false;
+}
+
+// A name for a definition that the text does not have.
+static std::string freeName(ModuleState &module, const std::string &name)
+{
+  std::string free = name;
+  auto isTaken = [&] {
+    auto own = module.definitions.find(free);
+    bool hasNode =
+        own != module.definitions.end() && !own->second->assign->hasParams;
+    return hasNode || module.madeNames.count(free);
+  };
+  for (int number = 2; isTaken(); ++number)
+    free = name + "-" + std::to_string(number);
+  module.madeNames.insert(free);
+  return free;
+}
+
+// The definition that stands for a recursive instance where its use has no
+// name of its own: a circle of types needs one to be called by.
+static int32_t recursiveDefinition(Compilation &c, int into, TypeUse use,
+                                   const Definition &def, const Scope *instance)
+{
+  int32_t &known = c.recursiveInstances[{into, instance}];
+  if (known != 0)
+    return known;
+  ModuleState &module = moduleAt(c, into);
+  TNode header = stxNewTNode(TYP_SYNONYM);
+  header.line = def.assign->pos.line;
+  known =
+      stxDefineType(module.tree, freeName(module, def.assign->name), header);
+  module.madeTypes.push_back(known);
+  AstType *bare = newAstType(c.ast, AT_REFERENCE, use.type->pos);
+  bare->ref = use.type->ref;
+  int nesting = c.nesting;
+  c.nesting = 0;
+  genTypeInto(c, into, *use.scope, *bare, known);
+  c.nesting = nesting;
+  return known;
+}
+
+static bool isBare(const TypeLayers &layers)
+{
+  for (const TypeUse &layer : layers)
+    if (!layer.type->tags.empty() || !layer.type->constraints.empty())
+      return false;
+  return true;
+}
+
+static void genCopy(Compilation &c, int into, TypeLayers layers,
+                    const Definition &def, const Scope &inner, int32_t node)
+{
   TNode header = newNodeFor(c, def.assign->pos, TYP_SYNONYM);
   header.compStatus = -TCS_HEADER;
   header.hidden = 1;
@@ -334,31 +413,71 @@ static void genInstance(Compilation &c, int into, TypeLayers layers,
   if (!def.assign->notes.empty())
     moduleAt(c, into).typeNotes.push_back({copy, &def.assign->notes});
   if (def.assign->kind == AA_SET) {
-    genTags(c, into, layers, copy);
-    genSet(c, into, std::move(layers), {def.assign->type, inner},
+    genSet(c, into, std::move(layers), {def.assign->type, &inner},
            *def.assign->set, copy);
   } else {
-    layers.push_back({def.assign->type, inner});
+    layers.push_back({def.assign->type, &inner});
     genLayers(c, into, std::move(layers), copy);
   }
-  --c.nesting;
 }
 
-static bool hasConstraints(const TypeLayers &layers)
+// The copy that is made for the use of a parameterised definition: a hidden
+// header that the use refers to. References from the copy back to itself
+// lead to the use, if that is a definition and nothing but this instance.
+static void genInstance(Compilation &c, int into, TypeLayers layers,
+                        const Definition &def, int32_t node)
 {
-  for (const TypeUse &layer : layers)
-    if (!layer.type->constraints.empty())
-      return true;
-  return false;
+  TypeUse use = layers.back();
+  const Scope *inner = instantiate(c, def, use.type->ref, *use.scope);
+  // One scope may be copied many times.
+  ++c.instantiations;
+  if (!inner || !isWithinLimits(c, use.type->ref, *use.scope) ||
+      refersBack(c, into, layers, inner, node))
+    return;
+  bool isBareUse = isBare(layers);
+  ++c.nesting;
+  c.openInstances.push_back({into, inner, {}});
+  genCopy(c, into, std::move(layers), def, *inner, node);
+  std::vector<int32_t> references =
+      std::move(c.openInstances.back().references);
+  c.openInstances.pop_back();
+  --c.nesting;
+  if (references.empty())
+    return;
+  const TNode &made = nodeAt(c, into, node);
+  bool isDefinition = made.compStatus == TCS_HEADER && made.identifier > 0;
+  int32_t target = isDefinition && isBareUse
+                       ? node
+                       : recursiveDefinition(c, into, use, def, inner);
+  for (int32_t reference : references)
+    makeSynonym(c, into, reference, {into, target});
 }
 
-// Puts types of parameters upon the layers. True if what is left is a
-// reference to `def`; false with `good` cleared if there is no type.
+// Puts what `object.&Type` is upon the layers; false if what they end in is
+// no such path.
+static bool skipTypeOfObject(Compilation &c, TypeLayers &layers)
+{
+  TypeUse top = layers.back();
+  FieldUse found;
+  if (top.type->kind != AT_FIELD || !isFromObjects(c, *top.type, *top.scope) ||
+      isFromSet(c, *top.type, *top.scope) ||
+      !typeInObject(c, *top.type, *top.scope, found) || !found.type ||
+      fieldKindOf(c, found.objectClass, *found.field) != FK_TYPE)
+    return false;
+  layers.push_back({found.type, found.scope});
+  return true;
+}
+
+// Puts types of parameters and objects upon the layers. True if what is left
+// is a reference to `def`; false with `good` cleared if there is no type.
 static bool skipParameters(Compilation &c, TypeLayers &layers, Definition *&def,
                            bool &good)
 {
   good = true;
-  for (int steps = 0; steps < maxChain; ++steps) {
+  CircleGuard<TypeUse> guard;
+  while (!guard.repeats(layers.back())) {
+    if (skipTypeOfObject(c, layers))
+      continue;
     TypeUse top = layers.back();
     if (top.type->kind != AT_REFERENCE)
       return false;
@@ -383,12 +502,29 @@ static bool skipParameters(Compilation &c, TypeLayers &layers, Definition *&def,
   return false;
 }
 
-static bool isTooMuch(Compilation &c, int into, AsnPos pos)
+// The values that a path into objects leads to; false if it leads elsewhere.
+static bool genSetFromObjects(Compilation &c, int into, TypeLayers &layers,
+                              int32_t node)
+{
+  TypeUse top = layers.back();
+  TypeUse governor;
+  const AstConstraint *set =
+      top.type->kind == AT_FIELD
+          ? setFromObjects(c, *top.type, *top.scope, governor)
+          : nullptr;
+  if (!set)
+    return false;
+  genSet(c, into, std::move(layers), governor, *set, node);
+  return true;
+}
+
+static bool isTooMuch(Compilation &c, int into, const AstType &type)
 {
   bool tooMuch = c.typeDepth > maxTypeDepth ||
                  treeOf(c, into).tNodes.size() > maxTypeNodes;
   if (tooMuch && !c.exhausted) {
-    asnError(c.errors, pos, "types are nested too deeply");
+    asnError(c.errors, type.pos, "%s: types are nested too deeply",
+             typeShown(type).c_str());
     c.exhausted = true;
   }
   return tooMuch;
@@ -396,7 +532,7 @@ static bool isTooMuch(Compilation &c, int into, AsnPos pos)
 
 static void genLayers(Compilation &c, int into, TypeLayers layers, int32_t node)
 {
-  if (isTooMuch(c, into, layers.back().type->pos))
+  if (isTooMuch(c, into, *layers.back().type))
     return;
   ++c.typeDepth;
   Definition *def = nullptr;
@@ -405,15 +541,16 @@ static void genLayers(Compilation &c, int into, TypeLayers layers, int32_t node)
   if (good && isReference &&
       (def->assign->hasParams || layers.back().type->ref.hasActuals)) {
     genInstance(c, into, std::move(layers), *def, node);
+  } else if (good && genSetFromObjects(c, into, layers, node)) {
+    --c.typeDepth;
+    return;
   } else if (good) {
     genTags(c, into, layers, node);
     if (isReference)
       makeSynonym(c, into, node, definitionNode(*def));
     else
       genContent(c, into, layers.back(), node);
-    if (hasConstraints(layers))
-      c.lateConstraints.push_back(
-          {into, std::move(layers), nullptr, nullptr, nullptr, node});
+    deferConstraints(c, into, std::move(layers), node);
   }
   --c.typeDepth;
 }
@@ -429,6 +566,7 @@ int32_t genHiddenType(Compilation &c, int into, const Scope &scope,
 {
   TNode node = newNodeFor(c, type.pos, TYP_NONE);
   node.hidden = 1;
+  node.compStatus = -TCS_HEADER;
   int32_t index = stxType(treeOf(c, into), node);
   genTypeInto(c, into, scope, type, index);
   return index;
@@ -449,7 +587,7 @@ int moduleOfNumber(Compilation &c, int module, int32_t number)
 static NodeAt linkedNode(Compilation &c, int module, int32_t link)
 {
   StxTree &tree = treeOf(c, module);
-  for (int steps = 0; link != 0 && steps < maxChain; ++steps) {
+  while (link != 0) {
     const SNode &node = stxLinkAt(tree, link);
     if (node.nextLink == 0)
       return {moduleOfNumber(c, module, node.linkModule), node.target};
@@ -460,7 +598,8 @@ static NodeAt linkedNode(Compilation &c, int module, int32_t link)
 
 NodeAt baseNode(Compilation &c, NodeAt at)
 {
-  for (int steps = 0; steps < maxChain && at.node > 0; ++steps) {
+  CircleGuard<NodeAt> guard;
+  while (at.node > 0 && !guard.repeats(at)) {
     const TNode &node = nodeAt(c, at.module, at.node);
     NodeAt next;
     if (node.mainType == TYP_SYNONYM && node.ref != 0)
@@ -483,11 +622,13 @@ static int32_t nameIn(const StxTree &tree, const std::string &name)
 
 NodeAt findCompNode(Compilation &c, NodeAt structure, const std::string &name)
 {
-  constexpr int maxDepth = 50;
-  if (c.walkDepth > maxDepth)
-    return {};
-  ++c.walkDepth;
   NodeAt base = baseNode(c, structure);
+  // A circle is told where components are counted.
+  const void *what =
+      base.node > 0 ? &nodeAt(c, base.module, base.node) : nullptr;
+  Walk walk(c, WALK_COMP_NODE, what, nullptr);
+  if (!walk.isGood())
+    return {};
   NodeAt found;
   int32_t comp = base.node > 0 ? nodeAt(c, base.module, base.node).ref : 0;
   if (comp != 0 && nodeAt(c, base.module, base.node).mainType == TYP_SYNONYM)
@@ -501,6 +642,5 @@ NodeAt findCompNode(Compilation &c, NodeAt structure, const std::string &name)
       found = {base.module, comp};
     comp = node.next;
   }
-  --c.walkDepth;
   return found;
 }

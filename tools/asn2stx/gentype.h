@@ -46,7 +46,11 @@ void finishSelections(Compilation &c);
 void genStructure(Compilation &c, int into, const Scope &scope,
                   const AstType &type, int32_t node);
 
-// The parameterised definition `def` with `actuals`, in a scope of its own;
-// null, reported, if the numbers differ or a limit is met.
+// The scope of the parameterised definition `def` with the parameters of
+// `ref`, one for all uses that mean the same (instance.cc); null, reported, if
+// the numbers differ or a limit is met.
 const Scope *instantiate(Compilation &c, const Definition &def,
                          const AstRef &ref, const Scope &scope);
+
+// False, reported once, if one more instance is too many.
+bool isWithinLimits(Compilation &c, const AstRef &ref, const Scope &scope);

@@ -2,14 +2,17 @@
 // the type governs it; both are walked side by side.
 
 #include "asn2stx/genvalue.h"
+#include "asn2stx/chain.h"
+#include "asn2stx/circles.h"
 #include "asn2stx/genobject.h"
 #include "asn2stx/gentype.h"
 #include "asn2stx/parser.h"
 #include "asn2stx/resolve.h"
+#include "asn2stx/shown.h"
+#include <algorithm>
 #include <charconv>
 #include <limits>
 
-constexpr int maxValueDepth = 300;
 constexpr size_t maxValueNodes = 1000000;
 
 // Everything that a value needs to know of where it stands.
@@ -35,7 +38,8 @@ static void setKind(ValueRun &run, int mainType)
 
 void valueMisfit(Compilation &c, const AstValue &value)
 {
-  asnError(c.errors, value.pos, "the value does not fit its type");
+  asnError(c.errors, value.pos, "value %s does not fit its type",
+           valueShown(value).c_str());
 }
 
 static bool parseInteger(Compilation &c, const AstValue &value, int64_t &number)
@@ -61,56 +65,68 @@ static const AstNamed *findItem(const AstType *type, const std::string &name)
   return nullptr;
 }
 
-static bool integerOfReference(Compilation &c, const Scope &scope,
-                               const AstValue &value, TypeUse named,
-                               int64_t &number)
+// An integer that is looked for: the value at hand, and the type that may
+// name numbers.
+struct IntegerWalk {
+  const AstValue *value;
+  const Scope *scope;
+  TypeUse named;
+};
+
+// Moves from a reference to what it names; false, reported, if it is no value.
+static bool stepInteger(Compilation &c, IntegerWalk &walk)
 {
-  if (named.type && value.ref.module.empty()) {
-    TypeUse base = baseType(c, *named.type, *named.scope);
-    const AstNamed *item = findItem(base.type, value.ref.name);
-    if (item && item->value)
-      return integerOf(c, *base.scope, *item->value, {}, number);
+  const AstRef &ref = walk.value->ref;
+  if (walk.named.type && ref.module.empty()) {
+    TypeUse base = baseType(c, *walk.named.type, *walk.named.scope);
+    const AstNamed *item = findItem(base.type, ref.name);
+    if (item && item->value) {
+      walk = {item->value, base.scope, {}};
+      return true;
+    }
   }
-  Found found = lookUp(c, value.ref, scope);
+  Found found = lookUp(c, ref, *walk.scope);
   if (!found.def)
     return false;
   const Definition &def = *found.def;
   if (def.kind != DK_VALUE) {
-    asnError(c.errors, value.pos, "%s is not a value",
-             asnQuoted(value.ref.name).c_str());
+    asnError(c.errors, walk.value->pos, "%s is not a value",
+             asnQuoted(ref.name).c_str());
     return false;
   }
   const Scope *inner = moduleAt(c, def.module).scope;
-  if (def.assign->hasParams || value.ref.hasActuals)
-    inner = instantiate(c, def, value.ref, scope);
-  return inner && integerOf(c, *inner, *def.assign->value,
-                            {def.assign->type, inner}, number);
+  if (def.assign->hasParams || ref.hasActuals)
+    inner = instantiate(c, def, ref, *walk.scope);
+  if (!inner)
+    return false;
+  walk = {def.assign->value, inner, {def.assign->type, inner}};
+  return true;
 }
 
 bool integerOf(Compilation &c, const Scope &scope, const AstValue &value,
                TypeUse named, int64_t &number)
 {
-  constexpr int maxSteps = 90;
-  if (c.walkDepth > maxSteps) {
-    asnError(c.errors, value.pos, "circular definition");
-    return false;
+  IntegerWalk walk = {&value, &scope, named};
+  CircleGuard<std::pair<const AstValue *, const Scope *>> guard;
+  while (!guard.repeats({walk.value, walk.scope})) {
+    skipValueParameters(c, walk.value, walk.scope);
+    const AstValue &at = *walk.value;
+    if (at.kind == AV_INTEGER)
+      return parseInteger(c, at, number);
+    bool good = at.kind == AV_REFERENCE || at.kind == AV_FIELD;
+    if (!good)
+      asnError(c.errors, at.pos, "an integer is needed here, not %s",
+               valueShown(at).c_str());
+    else if (at.kind == AV_REFERENCE)
+      good = stepInteger(c, walk);
+    else
+      good = resolveFieldValue(c, at, *walk.scope, walk.value, walk.scope);
+    if (!good)
+      return false;
   }
-  ++c.walkDepth;
-  const AstValue *at = &value;
-  const Scope *atScope = &scope;
-  skipValueParameters(c, at, atScope);
-  bool good = false;
-  if (at->kind == AV_INTEGER)
-    good = parseInteger(c, *at, number);
-  else if (at->kind == AV_REFERENCE)
-    good = integerOfReference(c, *atScope, *at, named, number);
-  else if (at->kind == AV_FIELD)
-    good = resolveFieldValue(c, *at, *atScope, at, atScope) &&
-           integerOf(c, *atScope, *at, named, number);
-  else
-    asnError(c.errors, at->pos, "an integer is needed here");
-  --c.walkDepth;
-  return good;
+  asnError(c.errors, value.pos, "circular definition of %s",
+           valueShown(value).c_str());
+  return false;
 }
 
 // References
@@ -193,7 +209,9 @@ static void genReference(ValueRun &run)
   }
   if (def.assign->hasParams || ref.hasActuals) {
     const Scope *inner = instantiate(c, def, ref, run.scope);
-    if (inner)
+    Walk walk(c, WALK_VALUE, def.assign->value, inner);
+    tellWalk(walk, run.value.pos, asnQuoted(ref.name));
+    if (inner && walk.isGood())
       genValueInto(c, run.into, *inner, *def.assign->value,
                    {def.assign->type, inner}, run.at, run.node);
     return;
@@ -228,7 +246,8 @@ static void setReal(ValueRun &run, int64_t mantissa, int64_t base,
   constexpr int64_t most = std::numeric_limits<int16_t>::max();
   if (base > most || base < specialBase || exponent > most ||
       exponent < -most) {
-    asnError(run.c.errors, run.value.pos, "the number is out of range");
+    asnError(run.c.errors, run.value.pos, "number %s is out of range",
+             valueShown(run.value).c_str());
     return;
   }
   setKind(run, TYP_REAL);
@@ -269,7 +288,8 @@ static void genDecimal(ValueRun &run)
   auto [stop, fault] =
       std::from_chars(digits.data(), digits.data() + digits.size(), mantissa);
   if (fault != std::errc()) {
-    asnError(run.c.errors, run.value.pos, "the number is out of range");
+    asnError(run.c.errors, run.value.pos, "number %s is out of range",
+             valueShown(run.value).c_str());
     return;
   }
   if (mantissa == 0)
@@ -369,11 +389,11 @@ static void genBits(ValueRun &run)
 const AstComp *findComp(Compilation &c, TypeUse structure,
                         const std::string &name, const Scope *&scope)
 {
-  constexpr int maxDepth = 50;
-  if (c.walkDepth > maxDepth)
-    return nullptr;
-  ++c.walkDepth;
   TypeUse base = baseType(c, *structure.type, *structure.scope);
+  // A circle is told where components are counted.
+  Walk walk(c, WALK_COMPS, base.type, base.scope);
+  if (!walk.isGood())
+    return nullptr;
   const AstComp *found = nullptr;
   auto look = [&](const AstComp *comp) {
     if (comp->kind == AC_COMPONENTS_OF && comp->type && !found)
@@ -389,7 +409,6 @@ const AstComp *findComp(Compilation &c, TypeUse structure,
       for (const AstComp *member : comp->members)
         look(member);
     }
-  --c.walkDepth;
   return found;
 }
 
@@ -412,8 +431,8 @@ static void genNamedChild(ValueRun &run, const std::string &name,
   const AstComp *comp = findComp(c, run.base, name, scope);
   NodeAt at = comp ? findCompNode(c, run.at, name) : NodeAt{};
   if (!comp || !comp->type || at.node == 0) {
-    asnError(c.errors, pos, "the type has no component %s",
-             asnQuoted(name).c_str());
+    asnError(c.errors, pos, "%s has no component %s",
+             typeShown(*run.base.type).c_str(), asnQuoted(name).c_str());
     return;
   }
   genChild(run, name, value, {comp->type, scope}, at);
@@ -598,9 +617,10 @@ void genValueInto(Compilation &c, int into, const Scope &scope,
                   const AstValue &value, TypeUse governor, NodeAt at,
                   int32_t node)
 {
-  if (c.walkDepth > maxValueDepth ||
-      treeOf(c, into).vNodes.size() > maxValueNodes) {
-    asnError(c.errors, value.pos, "values are nested too deeply");
+  if (treeOf(c, into).vNodes.size() > maxValueNodes) {
+    if (!c.exhausted)
+      asnError(c.errors, value.pos, "%s: more than %zu values",
+               valueShown(value).c_str(), maxValueNodes);
     c.exhausted = true;
     return;
   }
@@ -662,27 +682,29 @@ int32_t typeCarrier(Compilation &c, int into, int32_t typeNode)
 
 void checkValueCircles(Compilation &c)
 {
-  // A definition is good when all that it refers to is.
-  std::unordered_map<const Definition *, std::vector<const Definition *>> users;
-  std::unordered_map<const Definition *, int> open;
-  for (auto [from, to] : c.valueEdges) {
-    users[to].push_back(from);
-    ++open[from];
-    open[to];
+  std::vector<const Definition *> defs;
+  std::unordered_map<const Definition *, size_t> numbers;
+  auto numberOf = [&](const Definition *def) {
+    auto [entry, fresh] = numbers.emplace(def, defs.size());
+    if (fresh)
+      defs.push_back(def);
+    return entry->second;
+  };
+  std::vector<std::pair<size_t, size_t>> edges;
+  for (auto [from, to] : c.valueEdges)
+    edges.push_back({numberOf(from), numberOf(to)});
+  std::sort(edges.begin(), edges.end());
+  EdgeLists graph;
+  size_t edge = 0;
+  for (size_t i = 0; i < defs.size(); ++i) {
+    graph.first.push_back(graph.to.size());
+    for (; edge < edges.size() && edges[edge].first == i; ++edge)
+      graph.to.push_back(edges[edge].second);
   }
-  std::vector<const Definition *> good;
-  for (auto [def, count] : open)
-    if (count == 0)
-      good.push_back(def);
-  while (!good.empty()) {
-    const Definition *def = good.back();
-    good.pop_back();
-    for (const Definition *user : users[def])
-      if (--open[user] == 0)
-        good.push_back(user);
-  }
-  for (auto [def, count] : open)
-    if (count > 0)
-      asnError(c.errors, def->assign->pos, "circular definition of %s",
-               asnQuoted(def->assign->name).c_str());
+  graph.first.push_back(graph.to.size());
+  std::vector<bool> onCircle = nodesOnCircles(graph);
+  for (size_t i = 0; i < defs.size(); ++i)
+    if (onCircle[i])
+      asnError(c.errors, defs[i]->assign->pos, "circular definition of %s",
+               asnQuoted(defs[i]->assign->name).c_str());
 }

@@ -52,6 +52,33 @@ bool entryCategory(const std::string &word, uint8_t &category)
   return true;
 }
 
+std::string backEndOption(const std::string &text)
+{
+  static const std::string block = "-BEO=", own = "QUORVEN=";
+  std::string line = text;
+  if (line.starts_with("//"))
+    return block + line;
+  auto raise = [&](size_t from, const char *ends) {
+    size_t end = line.find_first_of(ends, from);
+    for (size_t i = from; end != std::string::npos && i < end; ++i)
+      line[i] = upperChar(line[i]);
+    return end == std::string::npos ? line.size() : end + 1;
+  };
+  if (!line.starts_with("-")) {
+    line = block + own + line;
+  } else if (strCaseComp(line.substr(0, block.size()).c_str(), block.c_str()) !=
+             0) {
+    line = block + own + line.substr(1);
+  }
+  size_t at = raise(0, "=");
+  bool isOwn =
+      strCaseComp(line.substr(at, own.size()).c_str(), own.c_str()) == 0;
+  // Another program's block is that program's.
+  if (isOwn)
+    raise(raise(at, "="), "=:");
+  return line;
+}
+
 // The parts of a value between its ":".
 static std::vector<std::string> partsOf(const std::string &value)
 {
@@ -117,7 +144,7 @@ static bool takeOption(Asn2StxOptions &options, ModRec &scratch,
   std::string line = argument;
   optionToUpper(line);
   if (backEndLine(line)) {
-    options.saved.push_back(line);
+    options.saved.push_back(backEndOption(line));
     return true;
   }
   if (const char *value = valueOf(line, "-PREFIX=")) {

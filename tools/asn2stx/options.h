@@ -42,6 +42,10 @@ struct Asn2StxOptions {
 // True for a line of a back-end's block, "-BEO=...".
 bool backEndLine(const std::string &line);
 
+// The line of a back-end option: in the tool's own block unless one is named,
+// names in capitals; "//text" is a comment.
+std::string backEndOption(const std::string &text);
+
 // Reads the arguments behind the program's name. False, with the reason in
 // `message`, for a command line that is not understood.
 bool parseAsn2StxOptions(const std::vector<std::string> &arguments,

@@ -125,6 +125,23 @@ static AstValue *parseEndpoint(Parser &parser, AsnKeyword infinite)
   return acceptWord(parser, infinite) ? nullptr : parseValue(parser);
 }
 
+static bool isCapitalName(const std::string &name)
+{
+  return !name.empty() && name[0] >= 'A' && name[0] <= 'Z';
+}
+
+// `object.&Set` was read as a value.
+static void makeTypeElem(Parser &parser, AstElem &elem)
+{
+  AstType *type = newAstType(parser.ast, AT_FIELD, elem.value->pos);
+  type->ref = elem.value->ref;
+  type->fields = elem.value->fields;
+  type->fieldPos = elem.value->fieldPos;
+  elem.kind = AE_TYPE;
+  elem.type = type;
+  elem.value = nullptr;
+}
+
 // The lower end is read, or null for MIN; ".." or "<" may follow.
 static AstElem *parseRangeOrValue(Parser &parser, AstValue *lower, AsnPos pos)
 {
@@ -135,6 +152,8 @@ static AstElem *parseRangeOrValue(Parser &parser, AstValue *lower, AsnPos pos)
     failExpected(parser, "\"..\"");
   if (!isRange) {
     elem->value = lower;
+    if (lower && lower->kind == AV_FIELD && isCapitalName(lower->fields.back()))
+      makeTypeElem(parser, *elem);
     return elem;
   }
   elem->kind = AE_RANGE;

@@ -157,6 +157,9 @@ static void parseAssign(Parser &parser, AstModule &module)
   advance(parser);
   if (atSign(parser, '{'))
     parseParams(parser, assign);
+  // A broken "::=" is no governor.
+  if (atSign(parser, ':') || atSign(parser, '='))
+    failExpected(parser, "\"::=\"");
   if (!isCapital || !atKind(parser, TOK_ASSIGN))
     assign.type = parseType(parser);
   if (atKind(parser, TOK_ASSIGN))

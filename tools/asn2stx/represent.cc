@@ -40,9 +40,12 @@ static bool fitsUnsigned(Bounds bounds, int bits)
 }
 
 // The smallest field for the numbers; an open end counts as one of 32 bits,
-// which is what most protocols mean.
-static uint8_t smallestField(Bounds bounds)
+// which is what most protocols mean, but of 64 bits if a number stands there
+// that is beyond these.
+static uint8_t smallestField(Bounds bounds, bool isWide)
 {
+  if (isWide && (isOpen(bounds.lower) || isOpen(bounds.upper)))
+    return bounds.lower >= 0 ? VF_UI64 : VF_I64;
   if (isOpen(bounds.upper))
     bounds.upper = std::max<int64_t>(
         bounds.lower, bounds.lower >= 0 ? UINT32_MAX : INT32_MAX);
@@ -58,14 +61,15 @@ static uint8_t smallestField(Bounds bounds)
   return bounds.lower >= 0 ? VF_UI64 : VF_I64;
 }
 
-static uint8_t integerField(const GlobalOptions &options, Bounds bounds)
+static uint8_t integerField(const GlobalOptions &options, Bounds bounds,
+                            bool isWide)
 {
   if (options.intSize != 0)
     return options.intSize;
   // Without any bound, in either direction: the plain integer of C.
-  if (isOpen(bounds.lower) && isOpen(bounds.upper))
+  if (isOpen(bounds.lower) && isOpen(bounds.upper) && !isWide)
     return VF_I32;
-  return smallestField(bounds);
+  return smallestField(bounds, isWide);
 }
 
 static Bounds itemBounds(StxTree &tree, int32_t first)
@@ -187,11 +191,12 @@ void representType(Compilation &c, int module, int32_t index)
     node.valueField = VF_BOOL;
     break;
   case TYP_INTEGER:
-    node.valueField = integerField(options, boundsOf(node));
+    node.valueField = integerField(options, boundsOf(node),
+                                   c.wideNodes.count({module, index}) > 0);
     break;
   case TYP_ENUM:
-    node.valueField =
-        integerField(options, itemBounds(treeOf(c, module), node.namedNumbers));
+    node.valueField = integerField(
+        options, itemBounds(treeOf(c, module), node.namedNumbers), false);
     break;
   case TYP_REAL:
     node.valueField = chosen(options.realSize, VF_REAL64);

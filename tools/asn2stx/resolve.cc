@@ -1,28 +1,37 @@
 // Names: the tables of modules, imports and definitions, and what a reference
-// stands for. Chains of references are walked with a limit, so that a circle
-// ends as an error wherever it is met.
+// stands for. A chain of references may have any length; a circle ends as an
+// error wherever it is met.
 
 #include "asn2stx/resolve.h"
+#include "asn2stx/chain.h"
 #include "asn2stx/genobject.h"
 #include "asn2stx/gentype.h"
 #include "asn2stx/parser.h"
+#include "asn2stx/shown.h"
 #include <algorithm>
 #include <unordered_set>
 
-// References that one name may run through, and searches within searches.
-constexpr int maxChain = 1000;
-constexpr int maxWalkDepth = 100;
+// Searches within searches: each takes a few frames of the stack.
+constexpr size_t maxWalks = 400;
 
-// Counts one search within another while it lives.
-struct WalkDepth {
-  Compilation &c;
-  explicit WalkDepth(Compilation &compilation) : c(compilation)
-  {
-    ++c.walkDepth;
-  }
-  ~WalkDepth() { --c.walkDepth; }
-  WalkDepth(const WalkDepth &) = delete;
-};
+Walk::Walk(Compilation &compilation, WalkKind kind, const void *what,
+           const Scope *scope)
+    : c(compilation)
+{
+  std::tuple<int, const void *, const Scope *> search = {kind, what, scope};
+  isCircle = std::find(c.walks.begin(), c.walks.end(), search) != c.walks.end();
+  isTooDeep = c.walks.size() >= maxWalks;
+  c.walks.push_back(search);
+}
+
+void tellWalk(const Walk &walk, AsnPos pos, const std::string &shown)
+{
+  if (walk.isCircle)
+    asnError(walk.c.errors, pos, "circular definition of %s", shown.c_str());
+  else if (walk.isTooDeep)
+    asnError(walk.c.errors, pos, "%s: references are nested too deeply",
+             shown.c_str());
+}
 
 static bool isPredefinedClass(const std::string &name)
 {
@@ -50,7 +59,7 @@ static void addDefinitions(Compilation &c, ModuleState &module)
 static Definition *definitionIn(Compilation &c, int module,
                                 const std::string &name)
 {
-  for (int steps = 0; steps <= maxWalkDepth; ++steps) {
+  for (size_t steps = 0; steps <= c.modules.size(); ++steps) {
     ModuleState &state = moduleAt(c, module);
     auto own = state.definitions.find(name);
     if (own != state.definitions.end())
@@ -124,97 +133,116 @@ static void checkParams(Compilation &c, const ModuleState &module)
 
 // Kinds of definitions
 
-static DefKind settleKind(Compilation &c, Definition &def);
+// What a search has done with a definition.
+enum DefState : uint8_t {
+  DEF_NEW,
+  DEF_KIND_RUNNING,
+  DEF_KIND_DONE,
+  DEF_CIRCLE_RUNNING,
+  DEF_CIRCLE_DONE
+};
 
-static DefKind kindOfReference(Compilation &c, const Definition &def,
-                               const AstRef &ref)
+// The definition that a reference within `def` names; null if there is none,
+// with `isClass` set if it is a predefined class.
+static Definition *namedBy(Compilation &c, const Definition &def,
+                           const AstRef &ref, bool &isClass)
 {
+  isClass = ref.module.empty() && isPredefinedClass(ref.name);
+  if (isClass)
+    return nullptr;
+  int module = def.module;
   if (ref.module.empty()) {
-    if (isPredefinedClass(ref.name))
-      return DK_CLASS;
     for (const AstParam &param : def.assign->params)
       if (param.name == ref.name)
-        return DK_TYPE;
-  }
-  int module = def.module;
-  if (!ref.module.empty()) {
+        return nullptr;
+  } else {
     auto named = c.moduleByName.find(ref.module);
     if (named == c.moduleByName.end())
-      return DK_UNKNOWN;
+      return nullptr;
     module = named->second;
   }
-  Definition *target = definitionIn(c, module, ref.name);
-  return target ? settleKind(c, *target) : DK_UNKNOWN;
+  return definitionIn(c, module, ref.name);
 }
 
-static bool governorIsClass(Compilation &c, const Definition &def)
+// The reference that decides whether the definition has to do with a class:
+// its governor, or what it is no more than a reference to; null: none.
+static const AstRef *decidingRef(const AstAssign &assign)
 {
-  const AstType *governor = def.assign->type;
-  return governor && governor->kind == AT_REFERENCE &&
-         kindOfReference(c, def, governor->ref) == DK_CLASS;
+  const AstType *type = assign.type;
+  if (assign.kind == AA_CLASS || !type || type->kind != AT_REFERENCE)
+    return nullptr;
+  bool isBare = type->tags.empty() && type->constraints.empty();
+  return assign.kind != AA_TYPE || isBare ? &type->ref : nullptr;
 }
 
-static DefKind kindByForm(Compilation &c, const Definition &def)
+static DefKind kindByForm(const AstAssign &assign, bool namesClass)
 {
-  const AstType *type = def.assign->type;
-  switch (def.assign->kind) {
+  switch (assign.kind) {
   case AA_CLASS:
     return DK_CLASS;
   case AA_VALUE:
-    return governorIsClass(c, def) ? DK_OBJECT : DK_VALUE;
+    return namesClass ? DK_OBJECT : DK_VALUE;
   case AA_SET:
-    return governorIsClass(c, def) ? DK_OBJECT_SET : DK_VALUE_SET;
+    return namesClass ? DK_OBJECT_SET : DK_VALUE_SET;
   case AA_TYPE:
     break;
   }
-  if (type->kind != AT_REFERENCE || !type->tags.empty() ||
-      !type->constraints.empty())
-    return DK_TYPE;
-  return kindOfReference(c, def, type->ref) == DK_CLASS ? DK_CLASS : DK_TYPE;
+  return namesClass ? DK_CLASS : DK_TYPE;
 }
 
+// Follows the references that decide, then settles the kinds on the way
+// back. A circle makes no class; it is told by `checkCircles`.
 static DefKind settleKind(Compilation &c, Definition &def)
 {
-  enum { NEW, RUNNING, DONE };
-  if (def.state == DONE)
-    return def.kind;
-  // A circle, told when the chain of the type is walked.
-  if (def.state == RUNNING || c.walkDepth > maxChain)
-    return DK_TYPE;
-  def.state = RUNNING;
-  WalkDepth depth(c);
-  def.kind = kindByForm(c, def);
-  def.state = DONE;
+  std::vector<Definition *> way;
+  Definition *at = &def;
+  bool isClass = false;
+  while (at && at->state == DEF_NEW) {
+    at->state = DEF_KIND_RUNNING;
+    way.push_back(at);
+    const AstRef *ref = decidingRef(*at->assign);
+    at = ref ? namedBy(c, *at, *ref, isClass) : nullptr;
+  }
+  if (at)
+    isClass = at->kind == DK_CLASS;
+  for (; !way.empty(); way.pop_back()) {
+    Definition &last = *way.back();
+    last.kind = kindByForm(*last.assign, isClass);
+    last.state = DEF_KIND_DONE;
+    isClass = last.kind == DK_CLASS;
+  }
   return def.kind;
+}
+
+// What a definition is nothing but a reference to; null: none.
+static Definition *mereReference(Compilation &c, const Definition &def)
+{
+  const AstAssign &assign = *def.assign;
+  if (assign.kind != AA_TYPE || assign.hasParams ||
+      assign.type->kind != AT_REFERENCE)
+    return nullptr;
+  bool isClass = false;
+  return namedBy(c, def, assign.type->ref, isClass);
 }
 
 // Definitions that are nothing but references to each other.
 static void checkCircles(Compilation &c)
 {
-  for (const Definition &def : c.definitions) {
-    const AstAssign &assign = *def.assign;
-    if (assign.kind != AA_TYPE || assign.hasParams)
-      continue;
-    const Definition *at = &def;
-    int steps = 0;
-    while (at && at->assign->kind == AA_TYPE && !at->assign->hasParams &&
-           at->assign->type->kind == AT_REFERENCE && steps < maxChain) {
-      const AstRef &ref = at->assign->type->ref;
-      int module = at->module;
-      if (!ref.module.empty()) {
-        auto named = c.moduleByName.find(ref.module);
-        if (named == c.moduleByName.end())
-          break;
-        module = named->second;
-      }
-      at = definitionIn(c, module, ref.name);
-      if (at == &def)
-        steps = maxChain;
-      ++steps;
+  for (Definition &def : c.definitions) {
+    std::vector<Definition *> way;
+    Definition *at = &def;
+    while (at && at->state == DEF_KIND_DONE) {
+      at->state = DEF_CIRCLE_RUNNING;
+      way.push_back(at);
+      at = mereReference(c, *at);
     }
-    if (steps > maxChain)
-      asnError(c.errors, assign.pos, "circular definition of %s",
-               asnQuoted(assign.name).c_str());
+    if (at && at->state == DEF_CIRCLE_RUNNING)
+      for (auto on = std::find(way.begin(), way.end(), at); on != way.end();
+           ++on)
+        asnError(c.errors, (*on)->assign->pos, "circular definition of %s",
+                 asnQuoted((*on)->assign->name).c_str());
+    for (Definition *passed : way)
+      passed->state = DEF_CIRCLE_DONE;
   }
 }
 
@@ -283,9 +311,15 @@ Found lookUp(Compilation &c, const AstRef &ref, const Scope &scope)
   return found;
 }
 
-// What an actual parameter stands for.
-static DefKind kindOfActual(Compilation &c, const Binding &binding)
+// What an actual parameter stands for; `owner` is the scope that the
+// parameter, and so its governor, belongs to.
+static DefKind kindOfActual(Compilation &c, const Binding &binding,
+                            const Scope &owner)
 {
+  // A parameter that governs itself has no kind.
+  Walk walk(c, WALK_KIND, &binding, &owner);
+  if (!walk.isGood())
+    return DK_UNKNOWN;
   const AstActual &actual = *binding.actual;
   const AstType *governor = binding.param->governor;
   if (actual.type && actual.type->kind == AT_REFERENCE) {
@@ -294,9 +328,7 @@ static DefKind kindOfActual(Compilation &c, const Binding &binding)
       return kind;
   }
   bool isSet = actual.set || (actual.type && governor);
-  bool objects = governor && governor->kind == AT_REFERENCE &&
-                 findName(c, governor->ref, *binding.scope).def &&
-                 kindOf(c, governor->ref, *binding.scope) == DK_CLASS;
+  bool objects = governor && governsObjects(c, *governor, owner);
   if (isSet)
     return objects ? DK_OBJECT_SET : DK_VALUE_SET;
   if (actual.value)
@@ -308,12 +340,10 @@ DefKind kindOf(Compilation &c, const AstRef &ref, const Scope &scope)
 {
   if (ref.module.empty() && isPredefinedClass(ref.name))
     return DK_CLASS;
-  if (c.walkDepth > maxWalkDepth)
-    return DK_UNKNOWN;
-  WalkDepth depth(c);
+  // Actual parameters are of an outer scope: this ends.
   Found found = findName(c, ref, scope);
   if (found.binding)
-    return kindOfActual(c, *found.binding);
+    return kindOfActual(c, *found.binding, scope);
   return found.def ? settleKind(c, *found.def) : DK_UNKNOWN;
 }
 
@@ -377,13 +407,14 @@ static TypeUse typeOfSelection(Compilation &c, const AstType &type,
     return {};
   if (choice.type->kind != AT_CHOICE) {
     asnError(c.errors, type.element->pos,
-             "selection from a type that is no "
-             "CHOICE");
+             "selection from %s, which is no CHOICE",
+             typeShown(*type.element).c_str());
     return {};
   }
   const AstComp *found = findAlternative(*choice.type, type.elementName);
   if (!found || !found->type) {
-    asnError(c.errors, type.pos, "the CHOICE has no alternative %s",
+    asnError(c.errors, type.pos, "%s has no alternative %s",
+             typeShown(*type.element).c_str(),
              asnQuoted(type.elementName).c_str());
     return {};
   }
@@ -392,11 +423,11 @@ static TypeUse typeOfSelection(Compilation &c, const AstType &type,
 
 TypeUse nextType(Compilation &c, const AstType &type, const Scope &scope)
 {
-  if (c.walkDepth > maxWalkDepth) {
-    asnError(c.errors, type.pos, "circular definition");
+  Walk walk(c, WALK_TYPE, &type, &scope);
+  if (!walk.isGood()) {
+    tellWalk(walk, type.pos, typeShown(type));
     return {};
   }
-  WalkDepth depth(c);
   switch (type.kind) {
   case AT_REFERENCE:
     return typeOfReference(c, type, scope);
@@ -412,7 +443,8 @@ TypeUse nextType(Compilation &c, const AstType &type, const Scope &scope)
 TypeUse baseType(Compilation &c, const AstType &type, const Scope &scope)
 {
   TypeUse at = {&type, &scope};
-  for (int steps = 0; steps < maxChain; ++steps) {
+  CircleGuard<TypeUse> guard;
+  while (!guard.repeats(at)) {
     AstTypeKind kind = at.type->kind;
     if (kind != AT_REFERENCE && kind != AT_SELECTION && kind != AT_FIELD)
       return at;
@@ -421,18 +453,16 @@ TypeUse baseType(Compilation &c, const AstType &type, const Scope &scope)
       return kind == AT_FIELD ? at : TypeUse{};
     at = next;
   }
-  asnError(c.errors, type.pos, "circular definition%s%s",
-           type.ref.name.empty() ? "" : " of ",
-           type.ref.name.empty() ? "" : asnQuoted(type.ref.name).c_str());
+  asnError(c.errors, type.pos, "circular definition of %s",
+           typeShown(type).c_str());
   return {};
 }
 
 void skipValueParameters(Compilation &c, const AstValue *&value,
                          const Scope *&scope)
 {
-  for (int steps = 0; steps < maxChain; ++steps) {
-    if (value->kind != AV_REFERENCE)
-      return;
+  // Each step leads to an outer scope.
+  while (value->kind == AV_REFERENCE) {
     Found found = findName(c, value->ref, *scope);
     if (!found.binding)
       return;

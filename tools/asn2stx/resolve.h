@@ -3,6 +3,39 @@
 
 // Names: modules, imports, definitions, parameters.
 
+// What a search looks for.
+enum WalkKind {
+  WALK_KIND,
+  WALK_TYPE,
+  WALK_OBJECT,
+  WALK_OBJECT_NAME,
+  WALK_FIELD,
+  WALK_VALUE,
+  WALK_VARIABLE_TYPE,
+  WALK_OBJECTS,
+  WALK_OID,
+  WALK_WIDE,
+  WALK_COMPS,
+  WALK_COMP_NODE
+};
+
+// One search within others while it lives. One that meets itself runs in a
+// circle; one that is nested too deeply is given up.
+struct Walk {
+  Compilation &c;
+  bool isCircle = false;
+  bool isTooDeep = false;
+
+  Walk(Compilation &compilation, WalkKind kind, const void *what,
+       const Scope *scope);
+  ~Walk() { c.walks.pop_back(); }
+  Walk(const Walk &) = delete;
+  bool isGood() const { return !isCircle && !isTooDeep; }
+};
+
+// Reports a search that is not good; `shown` is what it looks for.
+void tellWalk(const Walk &walk, AsnPos pos, const std::string &shown);
+
 // Fills the tables of all modules and settles what each name stands for.
 // Duplicates, unknown imports and circles are reported.
 void resolveModules(Compilation &c);

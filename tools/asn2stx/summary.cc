@@ -2,6 +2,8 @@
 // of the run are there.
 
 #include "asn2stx/summary.h"
+#include "asn2stx/chain.h"
+#include "asn2stx/circles.h"
 #include "asn2stx/gentype.h"
 #include <algorithm>
 
@@ -26,14 +28,27 @@ static const TNode &nodeAt(Compilation &c, NodeAt at)
   return stxTypeAt(treeOf(c, at.module), at.node);
 }
 
-// Where the text of a node is, to the line.
-static AsnPos linePos(Compilation &c, NodeAt at)
+NamedPlace placeOf(Compilation &c, NodeAt at)
 {
-  AsnPos pos;
-  pos.file = moduleAt(c, at.module).ast->pos.file;
-  pos.line = nodeAt(c, at).line;
-  pos.column = 1;
-  return pos;
+  const TNode &node = nodeAt(c, at);
+  NamedPlace place;
+  auto known = c.places.find({at.module, at.node});
+  if (known != c.places.end()) {
+    place = known->second;
+  } else {
+    place.pos.file = moduleAt(c, at.module).ast->pos.file;
+    place.pos.line = node.line;
+    place.pos.column = 1;
+  }
+  if (node.identifier > 0) {
+    const StxTree &tree = treeOf(c, at.module);
+    std::string name =
+        tree.stris.texts[static_cast<size_t>(node.identifier) - 1];
+    // As it was written: no name has a "_" of its own.
+    std::replace(name.begin(), name.end(), '_', '-');
+    place.shown = asnQuoted(name);
+  }
+  return place;
 }
 
 static bool isStructure(int mainType)
@@ -44,8 +59,8 @@ static bool isStructure(int mainType)
 // True for a CHOICE, ANY or open type that no tag stands ahead of.
 static bool isUntagged(Compilation &c, NodeAt at)
 {
-  constexpr int maxChain = 1000;
-  for (int steps = 0; steps < maxChain; ++steps) {
+  CircleGuard<NodeAt> guard;
+  while (!guard.repeats(at)) {
     const TNode &node = nodeAt(c, at);
     if (node.firstTag != 0)
       return false;
@@ -102,17 +117,19 @@ static CompsSum sumOfCompsOf(FlattenRun &run, NodeAt at, int fatherType)
 {
   Compilation &c = run.c;
   NodeAt base = baseNode(c, at);
-  AsnPos pos = linePos(c, at);
   if (base.node <= 0)
     return {};
+  NamedPlace place = placeOf(c, at);
   int mainType = nodeAt(c, base).mainType;
   if (mainType != fatherType && fatherType != TYP_EXTADDGRP) {
-    asnError(c.errors, pos, "COMPONENTS OF names a type of another kind");
+    asnError(c.errors, place.pos, "COMPONENTS OF %s: the type is no %s",
+             place.shown.c_str(), fatherType == TYP_SET ? "SET" : "SEQUENCE");
     return {};
   }
   const CompsSum &inner = sumOf(run, base);
   if (inner.state == CompsSum::RUNNING) {
-    asnError(c.errors, pos, "circular COMPONENTS OF");
+    asnError(c.errors, place.pos, "circular COMPONENTS OF %s",
+             place.shown.c_str());
     return {};
   }
   return inner;
@@ -160,8 +177,9 @@ static const CompsSum &sumOf(FlattenRun &run, NodeAt at)
   sum.state = CompsSum::RUNNING;
   if (++run.depth > maxFlattenDepth) {
     if (!c.exhausted)
-      asnError(c.errors, moduleAt(c, at.module).ast->pos,
-               "COMPONENTS OF is nested too deeply");
+      asnError(c.errors, placeOf(c, at).pos,
+               "%s: COMPONENTS OF is nested too deeply",
+               placeOf(c, at).shown.c_str());
     c.exhausted = true;
   } else {
     CompsSum made;
@@ -171,8 +189,8 @@ static const CompsSum &sumOf(FlattenRun &run, NodeAt at)
     node.nodeFlags |= made.bits;
     sum = made;
     if (made.total == maxFlattened)
-      asnError(c.errors, linePos(c, at), "more than %d components",
-               maxFlattened - 1);
+      asnError(c.errors, placeOf(c, at).pos, "%s has more than %d components",
+               placeOf(c, at).shown.c_str(), maxFlattened - 1);
   }
   --run.depth;
   sum.state = CompsSum::DONE;
@@ -194,10 +212,8 @@ static void flattenAll(Compilation &c)
 
 // Edges from a node to what its type is made of, by node number over all
 // modules.
-struct TypeGraph {
-  std::vector<size_t> base;   // number of a module's first node
-  std::vector<size_t> first;  // edge of a node; one more behind the last
-  std::vector<size_t> to;
+struct TypeGraph : EdgeLists {
+  std::vector<size_t> base;  // number of a module's first node
 };
 
 static bool hasChain(int mainType)
@@ -241,87 +257,10 @@ static TypeGraph makeGraph(Compilation &c)
   return graph;
 }
 
-// Marks the nodes that lie on a circle: Tarjan's search for strongly
-// connected components, with its own stack, as chains may be long.
-struct CircleSearch {
-  std::vector<size_t> order;  // of discovery, from 1
-  std::vector<size_t> low;
-  std::vector<size_t> open;
-  std::vector<bool> isOpen;
-  std::vector<bool> onCircle;
-  size_t count = 0;
-};
-
-static void closeComponent(const TypeGraph &graph, CircleSearch &search,
-                           size_t node)
-{
-  bool alone = search.open.back() == node;
-  size_t member;
-  do {
-    member = search.open.back();
-    search.open.pop_back();
-    search.isOpen[member] = false;
-    search.onCircle[member] = !alone;
-  } while (member != node);
-  if (alone)
-    for (size_t e = graph.first[node]; e < graph.first[node + 1]; ++e)
-      if (graph.to[e] == node)
-        search.onCircle[node] = true;
-}
-
-static void searchFrom(const TypeGraph &graph, CircleSearch &search,
-                       size_t start)
-{
-  struct Step {
-    size_t node;
-    size_t edge;
-  };
-  std::vector<Step> way;
-  auto enter = [&](size_t node) {
-    search.order[node] = search.low[node] = ++search.count;
-    search.open.push_back(node);
-    search.isOpen[node] = true;
-    way.push_back({node, graph.first[node]});
-  };
-  enter(start);
-  while (!way.empty()) {
-    size_t node = way.back().node;
-    if (way.back().edge < graph.first[node + 1]) {
-      size_t to = graph.to[way.back().edge++];
-      if (search.order[to] == 0)
-        enter(to);
-      else if (search.isOpen[to])
-        search.low[node] = std::min(search.low[node], search.order[to]);
-      continue;
-    }
-    way.pop_back();
-    if (!way.empty()) {
-      size_t father = way.back().node;
-      search.low[father] = std::min(search.low[father], search.low[node]);
-    }
-    if (search.low[node] == search.order[node])
-      closeComponent(graph, search, node);
-  }
-}
-
-static std::vector<bool> circleNodes(const TypeGraph &graph)
-{
-  size_t count = graph.first.size() - 1;
-  CircleSearch search;
-  search.order.resize(count);
-  search.low.resize(count);
-  search.isOpen.resize(count);
-  search.onCircle.resize(count);
-  for (size_t i = 0; i < count; ++i)
-    if (search.order[i] == 0)
-      searchFrom(graph, search, i);
-  return search.onCircle;
-}
-
 static void markRecursion(Compilation &c)
 {
   TypeGraph graph = makeGraph(c);
-  std::vector<bool> onCircle = circleNodes(graph);
+  std::vector<bool> onCircle = nodesOnCircles(graph);
   for (ModuleState &module : c.modules) {
     size_t base = graph.base[static_cast<size_t>(module.number)];
     for (size_t i = 0; i < module.tree.tNodes.size(); ++i) {
@@ -351,13 +290,12 @@ static bool isSkipped(const TNode &node)
 // A reference carries the SKIP kind of the definition it leads to.
 static void spreadSkip(Compilation &c, ModuleState &module)
 {
-  constexpr int maxChain = 1000;
   for (TNode &node : module.tree.tNodes) {
     NodeAt at = {module.number, 0};
     const TNode *target = &node;
-    for (int steps = 0; steps < maxChain && !isSkipped(*target) &&
-                        target->mainType == TYP_SYNONYM && target->ref != 0;
-         ++steps) {
+    CircleGuard<const TNode *> guard;
+    while (!guard.repeats(target) && !isSkipped(*target) &&
+           target->mainType == TYP_SYNONYM && target->ref != 0) {
       int next = moduleOfNumber(c, at.module, target->refModule);
       if (next < 0)
         break;
@@ -404,6 +342,9 @@ static void markIgnorable(Compilation &c)
       if (seen[base + i] &&
           module.tree.tNodes[i].mainType != TYP_EXTENSION_MARKER)
         module.tree.tNodes[i].nodeFlags |= NF_IGNORABLE;
+    for (int32_t index : module.notIgnorable)
+      stxTypeAt(module.tree, index).nodeFlags &=
+          static_cast<uint16_t>(~NF_IGNORABLE);
   }
 }
 
@@ -420,6 +361,11 @@ static void countDefinitions(Compilation &c, ModuleState &module)
       ++header.nrObjectSets;
     if (isType &&
         (header.visibilityMode == 0 || (node.classFlags & CF_VISIBLE)))
+      ++header.nrVisibleTypes;
+  }
+  for (int32_t made : module.madeTypes) {
+    const TNode &node = nodeAt(c, {module.number, made});
+    if (header.visibilityMode == 0 || (node.classFlags & CF_VISIBLE))
       ++header.nrVisibleTypes;
   }
   // Entries may be components, and copies that uses of parameterized

@@ -14,6 +14,7 @@
 #include <cstddef>
 #include <cstdlib>
 #include <cstring>
+#include <iterator>
 #include <numeric>
 
 // Records nested deeper than this are named and printed on their own later.
@@ -355,27 +356,57 @@ static std::string hexText(std::span<const uint8_t> octets)
   return text;
 }
 
-// The value that a node holds itself; octets if its code holds none.
+static bool isNumber(int mainType)
+{
+  return mainType == TYP_INTEGER || mainType == TYP_ENUM;
+}
+
+static bool isBinaryString(int mainType)
+{
+  return mainType == TYP_BITSTR || mainType == TYP_OCTSTR;
+}
+
+// True if the text of a value tells the octet of its payload. Of strings
+// that is a length, of 16 or 32 bits, and an index at 4.
+static bool isShownOctet(const VNode &node, size_t octet)
+{
+  if (node.mainType == TYP_BOOLEAN)
+    return octet < 1;
+  if (isNumber(node.mainType))
+    return octet < 8;
+  if (node.mainType == TYP_REAL)
+    return true;
+  if (stxPayloadKind(node) == 0)
+    return false;
+  size_t lengthEnd = isBinaryString(node.mainType) ? 2 : 4;
+  return octet < lengthEnd || (octet >= 4 && octet < 8);
+}
+
+// All octets, if there is one that is not told otherwise.
+static std::string restOfPayload(const VNode &node)
+{
+  for (size_t i = 0; i < std::size(node.payload); ++i)
+    if (node.payload[i] != 0 && !isShownOctet(node, i))
+      return " payload=" + hexText(node.payload);
+  return "";
+}
+
+// The value that a node holds itself.
 static std::string payloadText(const StxPrinter &dump, const VNode &node)
 {
-  std::span<const uint8_t> octets = node.payload;
-  bool any = std::any_of(octets.begin(), octets.end(),
-                         [](uint8_t octet) { return octet != 0; });
-  int kind = stxPayloadKind(node);
   if (node.mainType == TYP_BOOLEAN)
     return payloadBool(node) ? " TRUE" : " FALSE";
-  if (node.mainType == TYP_INTEGER || node.mainType == TYP_ENUM)
+  if (isNumber(node.mainType))
     return ' ' + stxInt64Text(payloadInt64(node));
   if (node.mainType == TYP_REAL)
     return ' ' + stxRealText(node);
-  if (!any)
-    return "";
+  int kind = stxPayloadKind(node);
   if (kind == 0)
-    return " payload=" + hexText(octets);
-  // The first word is a length, but of an object identifier.
+    return "";
+  // Front-ends give object identifiers a length, too.
   std::string text;
-  bool isBits = node.mainType == TYP_BITSTR || node.mainType == TYP_OCTSTR;
-  uint32_t length = isBits ? littleU16(node.payload) : littleU32(node.payload);
+  uint32_t length = isBinaryString(node.mainType) ? littleU16(node.payload)
+                                                  : littleU32(node.payload);
   addNumber(text, "length", static_cast<int32_t>(length));
   if (payloadStri(node) != 0)
     text += ' ' + quoted(dump.file, kind, payloadStri(node), maxShown);
@@ -409,6 +440,7 @@ static void dumpValue(StxPrinter &dump, int64_t index, int depth,
   if (node.identifier != 0)
     text += ' ' + named(dump, node.identifier);
   text += ' ' + stxMainTypeName(node.mainType) + payloadText(dump, node);
+  text += restOfPayload(node);
   addReference(text, "governor", node.governorModule, node.governor);
   addBits(text, "valueFlags", stxValueFlagBits, node.valueFlags);
   int use = stxFirstChild(dump.file, static_cast<int32_t>(index));

@@ -1,0 +1,8 @@
+// The table between engine and generator.
+
+#include "cbet/typefuncinfo.h"
+
+void cInitTypeFuncInfo(TypeFuncInfo &info)
+{
+  info = TypeFuncInfo{};
+}

@@ -1,0 +1,8 @@
+#pragma once
+#include "asn2stx/ast.h"
+
+// Types and values as messages show them: in quotes, by name where they have
+// one, else by their first words.
+
+std::string typeShown(const AstType &type);
+std::string valueShown(const AstValue &value);
