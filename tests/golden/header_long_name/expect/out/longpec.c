@@ -9,3 +9,10 @@
 #ifndef LONGPER_EXT
 #include "longper.ext"
 #endif
+
+void pecPDU (ASNG_F(ASNPERG *asnperg) PDU *home)
+{
+  pe_setEncodingVariant (ASN_PER_BASIC_ALIGNED);
+  pe_sint32_ucwn_al (*home);
+  pe_end ();
+}

@@ -8,3 +8,10 @@
 #ifndef TOPPER_EXT
 #include "topper.ext"
 #endif
+
+void pdcPDU (ASNG_F(ASNPERG *asnperg) PDU *home)
+{
+  pd_setEncodingVariant (ASN_PER_BASIC_ALIGNED);
+  pd_sint32_ucwn_al (home);
+  pd_end ();
+}

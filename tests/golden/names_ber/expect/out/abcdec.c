@@ -8,3 +8,10 @@
 #ifndef ABCCOD_EXT
 #include "abccod.ext"
 #endif
+
+void decPDU (ASNG_F(ASNPERG *asnperg) PDU *home)
+{
+  pd_setEncodingVariant (ASN_PER_BASIC_ALIGNED);
+  pd_sint32_ucwn_al (home);
+  pd_end ();
+}

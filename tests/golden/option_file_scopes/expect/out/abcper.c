@@ -8,3 +8,17 @@
 #ifndef ABCPER_EXT
 #include "abcper.ext"
 #endif
+
+void pecPDU (ASNG_F(ASNPERG *asnperg) PDU *home)
+{
+  pe_setEncodingVariant (ASN_PER_BASIC_ALIGNED);
+  pe_sint32_ucwn_al (*home);
+  pe_end ();
+}
+
+void pdcPDU (ASNG_F(ASNPERG *asnperg) PDU *home)
+{
+  pd_setEncodingVariant (ASN_PER_BASIC_ALIGNED);
+  pd_sint32_ucwn_al (home);
+  pd_end ();
+}

@@ -8,3 +8,24 @@
 #ifndef DEMO_PER_EXT
 #include "demo-per.ext"
 #endif
+
+void pdPDU (ASNG_F(ASNPERG *asnperg) PDU *home)
+{
+  home->compmask = 0;
+  {
+    sint32 optfield_0;
+    optfield_0 = pd_getBits (1);
+    pd_sint32_ucwn_al (&home->a_fld);
+    if (optfield_0 & BITL(0)){
+      home->compmask |= BIT(1);
+      pd_Boolean (&home->b_fld);
+    }
+  }
+}
+
+void pdcPDU (ASNG_F(ASNPERG *asnperg) PDU *home)
+{
+  pd_setEncodingVariant (ASN_PER_BASIC_ALIGNED);
+  pdPDU (ASNG_F(asnperg) home);
+  pd_end ();
+}

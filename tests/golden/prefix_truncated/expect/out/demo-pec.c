@@ -8,3 +8,25 @@
 #ifndef DEMO_PER_EXT
 #include "demo-per.ext"
 #endif
+
+void pePDU (ASNG_F(ASNPERG *asnperg) PDU *home)
+{
+  {
+    sint32 optfield_0 = 0;
+    if (home->compmask & BIT(1)){
+      optfield_0 |= BITL(0);
+    }
+    pe_optField (optfield_0, 1);
+  }
+  pe_sint32_ucwn_al (home->a_fld);
+  if ((home->compmask & BIT(1))){
+    pe_Boolean (home->b_fld);
+  }
+}
+
+void pecPDU (ASNG_F(ASNPERG *asnperg) PDU *home)
+{
+  pe_setEncodingVariant (ASN_PER_BASIC_ALIGNED);
+  pePDU (ASNG_F(asnperg) home);
+  pe_end ();
+}

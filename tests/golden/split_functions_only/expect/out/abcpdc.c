@@ -4,3 +4,10 @@
  * ASN.1 module = Abc_Def
  * FILE = abcpdc.c
  ****************************************************************/
+
+void pdcPDU (ASNG_F(ASNPERG *asnperg) PDU *home)
+{
+  pd_setEncodingVariant (ASN_PER_BASIC_ALIGNED);
+  pd_sint32_ucwn_al (home);
+  pd_end ();
+}

@@ -4,3 +4,10 @@
  * ASN.1 module = Abc_Def
  * FILE = abcpec.c
  ****************************************************************/
+
+void pecPDU (ASNG_F(ASNPERG *asnperg) PDU *home)
+{
+  pe_setEncodingVariant (ASN_PER_BASIC_ALIGNED);
+  pe_sint32_ucwn_al (*home);
+  pe_end ();
+}

@@ -10,3 +10,10 @@
 #ifndef DIRSPER_EXT
 #include "dirsper.ext"
 #endif
+
+void pecPDU (ASNG_F(ASNPERG *asnperg) PDU *home)
+{
+  pe_setEncodingVariant (ASN_PER_BASIC_ALIGNED);
+  pe_sint32_ucwn_al (*home);
+  pe_end ();
+}

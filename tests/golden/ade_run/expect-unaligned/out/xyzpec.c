@@ -1,0 +1,17 @@
+/****************************************************************
+ * Processed by QUORVEN 1.01.3 <time>
+ * Syntax file processed by ZELK 2.13 on 01.01.2024 at 12:00.00
+ * ASN.1 module = Xyz
+ * FILE = xyzpec.c
+ ****************************************************************/
+
+#ifndef XYZPER_EXT
+#include "xyzper.ext"
+#endif
+
+void pecPDU (ASNG_F(ASNPERG *asnperg) PDU *home)
+{
+  pe_setEncodingVariant (ASN_PER_BASIC_UNALIGNED);
+  pe_sint32_ucwn_ua (*home);
+  pe_end ();
+}

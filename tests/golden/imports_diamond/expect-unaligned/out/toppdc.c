@@ -1,0 +1,17 @@
+/****************************************************************
+ * Processed by QUORVEN 1.01.3 <time>
+ * Syntax file processed by ZELK 2.13 on 01.01.2024 at 12:00.00
+ * ASN.1 module = Top
+ * FILE = toppdc.c
+ ****************************************************************/
+
+#ifndef TOPPER_EXT
+#include "topper.ext"
+#endif
+
+void pdcPDU (ASNG_F(ASNPERG *asnperg) PDU *home)
+{
+  pd_setEncodingVariant (ASN_PER_BASIC_UNALIGNED);
+  pd_sint32_ucwn_ua (home);
+  pd_end ();
+}
