@@ -70,6 +70,9 @@ static void genSeparateFunction(AsnType &type)
 
 void genNormalFunc(AsnType &type, bool separate)
 {
+  // Each type that is found on the way down is one level deeper.
+  static int depth;
+  NestingGuard guard(depth, type.baseModRec);
   if (!isFuncGeneratedInThisModuleFile(type))
     return;
   bool isSynonym = isSynonymType(type);

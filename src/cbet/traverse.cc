@@ -43,16 +43,29 @@
 // --- nesting ----------------------------------------------------------------
 
 static InlineNesting *innermostInline;
+static int64_t inlineTypesVisited;  // under the outermost one
+
+// Components that many structures take over stand in line in each of them, so
+// the types of a body can be more than the nodes of the tree; a damaged tree
+// that shares nodes doubles them at each level.
+constexpr int64_t maxVisitsPerNode = 1000;
 
 // The search outward is for recursive types only: the front-end marks them,
 // and inner instances of recursive types are bound to definitions.
 InlineNesting::InlineNesting(const AsnType &type)
     : module(type.baseModRec), recNr(type.baseRecNr),
-      recursive(isRecursiveBaseType(type)), outer(innermostInline)
+      recursive(isRecursiveBaseType(type)),
+      depth(innermostInline ? innermostInline->depth + 1 : 1),
+      outer(innermostInline)
 {
   for (InlineNesting *n = outer; recursive && n; n = n->outer)
     if (n->recursive && n->module == module && n->recNr == recNr)
       fatalError(FATAL_INTERNAL, "type contains itself in place");
+  int64_t nodes = recordsOfRun(REC_TNODE);
+  inlineTypesVisited = outer ? inlineTypesVisited + 1 : 1;
+  if (depth > maxNesting || depth > nodes + 1 ||
+      inlineTypesVisited > nodes * maxVisitsPerNode)
+    treeInconsistent(module);
   innermostInline = this;
 }
 

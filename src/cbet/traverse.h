@@ -49,7 +49,9 @@ bool extraElemsVarUsed();
 void ignoreTrailingListElems(AsnType &father, AsnType &comp);
 
 // --- Nesting of inline code. A type that contains itself in place is a
-// damaged tree: fatal error 13.
+// damaged tree: fatal error 13 if the front-end marked it as recursive, else
+// 15 at a depth or, under the outermost one, a number of inline types that no
+// sound tree comes near.
 struct InlineNesting {
   explicit InlineNesting(const AsnType &type);
   ~InlineNesting();
@@ -59,5 +61,6 @@ struct InlineNesting {
   const ModRec *module;
   int32_t recNr;
   bool recursive;
+  int64_t depth;
   InlineNesting *outer;
 };
