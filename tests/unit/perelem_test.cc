@@ -106,7 +106,7 @@ TEST_F(PerElem, PiecesOfTheHead)
   load(name + " ::= SEQUENCE OF NULL");
   EXPECT_EQ(headOf(name.c_str()), "\nstatic void ef1_" + name +
                                       " (ASNG_F(ASNPERG *asnperg)\n"
-                                      "   sint32 n, BYTE_TYPE **p)\n{\n}\n");
+                                      "  sint32 n, BYTE_TYPE **p)\n{\n}\n");
 }
 
 TEST_F(PerElem, SupportedElements)

@@ -17,3 +17,18 @@ TEST_F(EncodingVariant, SetAndGet)
     EXPECT_EQ(glbEncodingVariant, variant);
   }
 }
+
+TEST_F(EncodingVariant, ArgumentOfTheRunTime)
+{
+  perSetEncodingVariant(VARIANT_ALIGNED);
+  EXPECT_STREQ(perEncodingVariantTail(), "ASN_PER_BASIC_ALIGNED);\n");
+  perSetEncodingVariant(VARIANT_UNALIGNED);
+  EXPECT_STREQ(perEncodingVariantTail(), "ASN_PER_BASIC_UNALIGNED);\n");
+  // The blank is in generated code.
+  perSetEncodingVariant(2);
+  EXPECT_STREQ(perEncodingVariantTail(), " ASN_PER_UNKNOWN_VARIANT);\n");
+  for (int variant : {3, -1}) {
+    perSetEncodingVariant(variant);
+    EXPECT_STREQ(perEncodingVariantTail(), "");
+  }
+}
