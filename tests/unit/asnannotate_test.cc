@@ -382,3 +382,25 @@ TEST(AsnAnnotate, NamingOptionsAreRaised)
   EXPECT_THAT(linesOf(tree, node.firstTed, node.lastTed),
               ElementsAre("3 -TPREF=x_Y"));
 }
+
+TEST(AsnAnnotate, NotIgnorable)
+{
+  const std::string body = "A ::= SEQUENCE { a NULL, b B } --$ skip=ignore\n"
+                           "B ::= BOOLEAN --$ ";
+  AsnCompiled marked = compileBody(body + "visible");
+  EXPECT_TRUE(defOf(treeOf(marked), "B").nodeFlags & NF_IGNORABLE);
+  AsnCompiled cleared = compileBody(body + "no-ignorable");
+  EXPECT_TRUE(defOf(treeOf(cleared), "A").nodeFlags & NF_IGNORABLE);
+  EXPECT_FALSE(defOf(treeOf(cleared), "B").nodeFlags & NF_IGNORABLE);
+}
+
+TEST(AsnAnnotate, BackEndLineOfAModule)
+{
+  AsnCompiled compiled =
+      compileAsn("M DEFINITIONS ::= BEGIN\n"
+                 "--$ beo=\"-C=src\" option=\"-C=obj\"\nEND\n");
+  const StxTree &tree = treeOf(compiled);
+  EXPECT_THAT(
+      linesOf(tree, tree.header.firstGlobalTed, tree.header.lastGlobalTed),
+      ElementsAre("2 -BEO=QUORVEN=C=src", "3 -C=obj"));
+}

@@ -254,22 +254,23 @@ struct ConstraintErrorCase {
 TEST(AsnGenConstraintRecord, Errors)
 {
   static const ConstraintErrorCase cases[] = {
-      {"A ::= BOOLEAN (SIZE (1))", "2:16: SIZE does not apply to this type"},
+      {"A ::= BOOLEAN (SIZE (1))", "2:16: SIZE does not apply to \"BOOLEAN\""},
       {"A ::= INTEGER (FROM (\"a\"))",
-       "2:16: FROM does not apply to this type"},
-      {"A ::= INTEGER (\"a\")", "2:16: the value does not fit its type"},
-      {"A ::= INTEGER (1..TRUE)", "2:19: the value does not fit its type"},
+       "2:16: FROM does not apply to \"INTEGER\""},
+      {"A ::= INTEGER (\"a\")", "2:16: value \"a\" does not fit its type"},
+      {"A ::= INTEGER (1..TRUE)", "2:19: value \"TRUE\" does not fit its type"},
       {"A ::= INTEGER (WITH COMPONENT (1))",
-       "2:16: WITH COMPONENT does not apply to this type"},
+       "2:16: WITH COMPONENT does not apply to \"INTEGER\""},
       {"A ::= INTEGER (WITH COMPONENTS { a })",
-       "2:16: WITH COMPONENTS does not apply to this type"},
+       "2:16: WITH COMPONENTS does not apply to \"INTEGER\""},
       {"A ::= SET { a NULL } (WITH COMPONENTS { b })",
-       "2:41: the type has no component \"b\""},
+       "2:41: \"SET\" has no component \"b\""},
       {"A ::= INTEGER (Nowhere)", "2:16: \"Nowhere\" is not defined"},
       {"A ::= OCTET STRING (CONTAINING Nowhere)",
        "2:32: \"Nowhere\" is not defined"},
-      {"A ::= INTEGER (A | A)", "2:1: circular constraint"},
-      {"A ::= INTEGER (B)\nB ::= INTEGER (A)", "2:1: circular constraint"},
+      {"A ::= INTEGER (A | A)", "2:15: circular constraint of \"A\""},
+      {"A ::= INTEGER (B)\nB ::= INTEGER (A)",
+       "2:15: circular constraint of \"A\""},
   };
   for (const ConstraintErrorCase &row : cases)
     EXPECT_EQ(errorOf(row.body), row.error) << row.body;
@@ -283,4 +284,55 @@ TEST(AsnGenConstraint, UnionWithAnOperandWithoutBounds)
   const StxTree &tree = treeOf(compiled);
   EXPECT_EQ(boundsOf(tree, typeNamed(tree, "A")), "min..max");
   EXPECT_EQ(boundsOf(tree, typeNamed(tree, "B")), "0..9");
+}
+
+TEST(AsnGenConstraint, ExtensibleAlphabet)
+{
+  AsnCompiled compiled =
+      compileBody("A ::= IA5String (FROM (\"a\"..\"f\", ..., \"z\"))\n"
+                  "B ::= IA5String (FROM (\"a\"..\"f\"), ...)\n"
+                  "C ::= IA5String (SIZE (1..4, ...) ^ FROM (\"a\"..\"f\"))");
+  const StxTree &tree = treeOf(compiled);
+  auto isMarked = [&](const char *name) {
+    size_t at = static_cast<size_t>(typeNamed(tree, name)) - 1;
+    return (tree.tNodes[at].nodeFlags & NF_EXTENSIBLE) != 0;
+  };
+  EXPECT_EQ(constraintOf(tree, typeNamed(tree, "A")), "from([\"a\",\"f\"])");
+  // The flag of a string is that of its size.
+  EXPECT_FALSE(isMarked("A"));
+  EXPECT_FALSE(isMarked("B"));
+  EXPECT_TRUE(isMarked("C"));
+}
+
+TEST(AsnGenConstraint, SettingsArePassedOver)
+{
+  AsnCompiled compiled =
+      compileBody("A ::= GeneralizedTime (SETTINGS \"Basic=Date\")\n"
+                  "B ::= INTEGER (0..9)");
+  const StxTree &tree = treeOf(compiled);
+  EXPECT_EQ(constraintOf(tree, typeNamed(tree, "A")), "");
+  EXPECT_EQ(constraintOf(tree, typeNamed(tree, "B")), "[0,9]");
+}
+
+TEST(AsnGenConstraint, ValueSetOfAGovernorThatIsWrittenOut)
+{
+  AsnCompiled compiled = compileBody(
+      "V [3] INTEGER { one(1) } (0..9) ::= { one | 4 }\n"
+      "U UTF8String ::= { \"x\" }\nS SEQUENCE { a NULL } ::= { {a NULL} }");
+  const StxTree &tree = treeOf(compiled);
+  auto def = [&](const char *name) -> const TNode & {
+    return tree.tNodes[static_cast<size_t>(typeNamed(tree, name)) - 1];
+  };
+  // A reference would lead to a type without a name.
+  EXPECT_EQ(def("V").mainType, TYP_INTEGER);
+  EXPECT_NE(def("V").namedNumbers, 0);
+  EXPECT_NE(def("V").firstTag, 0);
+  EXPECT_EQ(constraintOf(tree, typeNamed(tree, "V")),
+            "serial([0,9] union(one 4))");
+  EXPECT_EQ(boundsOf(tree, typeNamed(tree, "V")), "1..4");
+  ASSERT_NE(def("U").firstTag, 0);
+  EXPECT_EQ(tree.tagRecs[static_cast<size_t>(def("U").firstTag) - 1].tagNumber,
+            12);
+  EXPECT_EQ(def("S").mainType, TYP_SEQ);
+  EXPECT_NE(compNamed(tree, typeNamed(tree, "S"), "a"), 0);
 }

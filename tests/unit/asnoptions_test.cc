@@ -51,10 +51,10 @@ TEST(AsnOptions, DirectoryAndLongOptions)
 
 TEST(AsnOptions, CatalogueIsSavedAndGoverns)
 {
-  Asn2StxOptions options = optionsOf(
-      {"-int=U16", "-N=8", "-COMPMASK=32", "-CHOICE=16", "-REAL=32",
-       "-DYNSTRLIM=1", "-SEGSTRLIM=2", "-DYNLISTLIM=3", "-SEGLISTLIM=4",
-       "-DYNARRLIM=5"});
+  Asn2StxOptions options =
+      optionsOf({"-int=U16", "-N=8", "-COMPMASK=32", "-CHOICE=16", "-REAL=32",
+                 "-DYNSTRLIM=1", "-SEGSTRLIM=2", "-DYNLISTLIM=3",
+                 "-SEGLISTLIM=4", "-DYNARRLIM=5"});
   EXPECT_EQ(options.catalogue.intSize, VF_UI16);
   EXPECT_EQ(options.catalogue.nSize, VF_I8);
   EXPECT_EQ(options.catalogue.compMaskSize, VF_I32);
@@ -107,12 +107,27 @@ TEST(AsnOptions, Categories)
 
 TEST(AsnOptions, BadOptions)
 {
-  for (const char *bad :
-       {"-o", "--nothing", "-NOTHING=1", "-PREFIX=", "-PREFIX=Mod",
-        "-PREFIX=:abc", "-PREFIX=Mod:a:b:c", "-PREFIXLEN=0", "-PREFIXLEN=33",
-        "-PREFIXLEN=x", "-ENTRY=", "-ENTRY=A:PDQ", "-INT=7", "-N=U8",
-        "-COMPMASK=x", "-REAL=16", "-DYNSTRLIM=-1", "--stamp=20240101",
-        "--stamp=x:120000", "--stamp=20240101:12", "--stamp=20240101:240000"})
+  for (const char *bad : {"-o",
+                          "--nothing",
+                          "-NOTHING=1",
+                          "-PREFIX=",
+                          "-PREFIX=Mod",
+                          "-PREFIX=:abc",
+                          "-PREFIX=Mod:a:b:c",
+                          "-PREFIXLEN=0",
+                          "-PREFIXLEN=33",
+                          "-PREFIXLEN=x",
+                          "-ENTRY=",
+                          "-ENTRY=A:PDQ",
+                          "-INT=7",
+                          "-N=U8",
+                          "-COMPMASK=x",
+                          "-REAL=16",
+                          "-DYNSTRLIM=-1",
+                          "--stamp=20240101",
+                          "--stamp=x:120000",
+                          "--stamp=20240101:12",
+                          "--stamp=20240101:240000"})
     EXPECT_EQ(messageOf({bad}), "bad option \"" + std::string(bad) + "\"");
   EXPECT_EQ(messageOf({"-o", ""}), "bad option \"-o\"");
 }
@@ -121,4 +136,19 @@ TEST(AsnOptions, NoFile)
 {
   EXPECT_EQ(messageOf({}), "no ASN.1 file is named");
   EXPECT_EQ(messageOf({"-INT=8"}), "no ASN.1 file is named");
+}
+
+TEST(AsnOptions, BackEndLines)
+{
+  EXPECT_EQ(backEndOption("PERCOD=1:1"), "-BEO=QUORVEN=PERCOD=1:1");
+  EXPECT_EQ(backEndOption("-percod=1:1"), "-BEO=QUORVEN=PERCOD=1:1");
+  EXPECT_EQ(backEndOption("-C=src"), "-BEO=QUORVEN=C=src");
+  EXPECT_EQ(backEndOption("-beo=quorven=percod=1:1"),
+            "-BEO=QUORVEN=PERCOD=1:1");
+  // What stands behind the name is taken as it is.
+  EXPECT_EQ(backEndOption("func:pe_Name"), "-BEO=QUORVEN=FUNC:pe_Name");
+  EXPECT_EQ(backEndOption("-beo=other=x"), "-BEO=other=x");
+  EXPECT_EQ(backEndOption("//a b=c"), "-BEO=//a b=c");
+  EXPECT_THAT(optionsOf({"-beo=quorven=percod=1:1"}).saved,
+              ElementsAre("-BEO=QUORVEN=PERCOD=1:1"));
 }

@@ -166,11 +166,12 @@ TEST(AsnParam, Errors)
        "3:7: \"P\" needs 1 parameters, not 0"},
       {"B ::= NULL\nA ::= B {NULL}", "3:7: \"B\" needs 0 parameters, not 1"},
       {"P {T, T} ::= NULL", "2:7: duplicate parameter \"T\""},
-      {"P {T} ::= SET { t T, p P {T} OPTIONAL }\nA ::= P {NULL}",
+      {"P {T} ::= SET { t T, p P {SET OF T} OPTIONAL }\nA ::= P {NULL}",
        "2:24: \"P\": parameterized definitions are nested too deeply"},
-      {"P {T} ::= SET { a Q {T}, b Q {T} }\n"
+      {"P {T} ::= SET { a Q {SET OF T}, b Q {T} }\n"
        "Q {T} ::= SET { a P {T}, b P {T} }\nA ::= P {NULL}",
        "3:19: \"P\": parameterized definitions are nested too deeply"},
+      {"P {T} ::= P {T}\nA ::= P {NULL}", "2:11: circular definition of \"P\""},
   };
   for (const ParamErrorCase &row : cases)
     EXPECT_EQ(errorOf(row.body), row.error) << row.body;
@@ -187,4 +188,49 @@ TEST(AsnParam, GrowthIsBounded)
   EXPECT_FALSE(compiled.good);
   ASSERT_EQ(compiled.errors.size(), 1u);
   EXPECT_THAT(compiled.errors[0], testing::HasSubstr("nested too deeply"));
+}
+
+// The modes of the tags on the copy that A refers to, outermost first.
+static std::vector<int> modesOf(const std::string &body, const char *tags)
+{
+  AsnCompiled compiled = compileBody(body, {}, tags);
+  const StxTree &tree = treeOf(compiled);
+  std::vector<int> modes;
+  int32_t copy = defOf(tree, "A").ref;
+  int32_t comp = compNamed(tree, copy, "t");
+  int32_t tag = nodeOf(tree, comp ? comp : copy).firstTag;
+  while (tag != 0) {
+    const TagRec &record = tree.tagRecs.at(static_cast<size_t>(tag) - 1);
+    modes.push_back(record.tagMode);
+    tag = record.nextTag;
+  }
+  return modes;
+}
+
+TEST(AsnParam, TagOnAParameterIsExplicit)
+{
+  using testing::ElementsAre;
+  const char *tags = "IMPLICIT TAGS";
+  // X.680 (2002) 30.6 c: whatever the parameter stands for.
+  EXPECT_THAT(modesOf("P {T} ::= SET { t [1] T }\n"
+                      "A ::= P {CHOICE { x NULL }}",
+                      tags),
+              ElementsAre(1));
+  EXPECT_THAT(modesOf("P {T} ::= SET { t [1] T }\nA ::= P {ANY}", tags),
+              ElementsAre(1));
+  EXPECT_THAT(modesOf("P {T} ::= SET { t [1] T }\nA ::= P {NULL}", tags),
+              ElementsAre(1));
+  EXPECT_THAT(modesOf("P {T} ::= SET { t [1] T }\nA ::= P {[2] NULL}", tags),
+              ElementsAre(1, 0));
+  // What is no parameter, and what is written.
+  EXPECT_THAT(
+      modesOf("P {T} ::= SET { t [1] NULL, u T }\nA ::= P {NULL}", tags),
+      ElementsAre(0));
+  EXPECT_THAT(
+      modesOf("P {T} ::= SET { t [1] IMPLICIT T }\nA ::= P {NULL}", tags),
+      ElementsAre(0));
+  EXPECT_THAT(modesOf("P {T} ::= SET { t [1] IMPLICIT T }\n"
+                      "A ::= P {CHOICE { x NULL }}",
+                      tags),
+              ElementsAre(1));
 }

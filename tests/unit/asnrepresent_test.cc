@@ -16,9 +16,8 @@ struct FieldCase {
 // Compiles "A ::= TYPE" under the options and compares both codes.
 static void expectField(const FieldCase &row, const Asn2StxOptions &options)
 {
-  AsnCompiled compiled = compileBody(std::string("A ::= ") + row.type +
-                                         "\nB ::= INTEGER",
-                                     options);
+  AsnCompiled compiled = compileBody(
+      std::string("A ::= ") + row.type + "\nB ::= INTEGER", options);
   const TNode &node = defOf(treeOf(compiled), "A");
   EXPECT_EQ(node.valueField, row.field) << row.type;
   EXPECT_EQ(node.valueFieldSize, row.size) << row.type;
@@ -50,6 +49,16 @@ static const FieldCase integerCases[] = {
     {"INTEGER (0..65536)", VF_UI32, 0},
     {"INTEGER (0..4294967295)", VF_UI32, 0},
     {"INTEGER (0..4294967296)", VF_UI64, 0},
+    {"INTEGER (0..MAX)", VF_UI32, 0},
+    {"INTEGER (0..9223372036854775807)", VF_UI64, 0},
+    {"INTEGER (0..18446744073709551615)", VF_UI64, 0},
+    {"INTEGER (0..18446744073709551615, ...)", VF_UI64, 0},
+    {"INTEGER (1 | 7..18446744073709551615)", VF_UI64, 0},
+    {"INTEGER (-1..18446744073709551615)", VF_I64, 0},
+    {"INTEGER (-9223372036854775808..0)", VF_I64, 0},
+    {"INTEGER (-9223372036854775809..0)", VF_I64, 0},
+    {"INTEGER (MIN..9223372036854775807)", VF_I64, 0},
+    {"INTEGER (0..18446744073709551615) (0..9)", VF_UI8, 0},
     {"INTEGER (0)", VF_UI8, 0},
     {"INTEGER (-1..127)", VF_I8, 0},
     {"INTEGER (-128..0)", VF_I8, 0},
@@ -63,7 +72,10 @@ static const FieldCase integerCases[] = {
     {"INTEGER (-1..2147483648)", VF_I64, 0},
 };
 
-TEST(AsnRepresent, IntegerByBounds) { expectFields(integerCases); }
+TEST(AsnRepresent, IntegerByBounds)
+{
+  expectFields(integerCases);
+}
 
 // An open end is 2^31 - 1, 2^32 - 1 of unsigned numbers, or -2^31; a written
 // bound beyond that needs 64 bits.
@@ -392,4 +404,30 @@ TEST(AsnRepresent, EntriesAreDefinitionsOfThatName)
   EXPECT_EQ(defOf(tree, "Third").entryFlags, 0);
   EXPECT_EQ(stxTypeAt(tree, mine.ref).entryFlags, 0);
   EXPECT_EQ(tree.header.nrEntryTypes, 2);
+}
+
+TEST(AsnRepresent, WideEndsElsewhere)
+{
+  AsnCompiled compiled = compileBody(
+      "W ::= INTEGER (0..18446744073709551615)\n"
+      "Contained ::= INTEGER (W)\n"
+      "S INTEGER ::= { 0..18446744073709551615 }\n"
+      "FromSet ::= INTEGER (S)\n"
+      "Named ::= INTEGER (0..top)\ntop INTEGER ::= 9223372036854775807\n"
+      "P {INTEGER:max} ::= INTEGER (0..max)\n"
+      "Inst ::= P {18446744073709551615}\nSmall ::= P {7}\n"
+      "Q ::= SEQUENCE { a INTEGER } (WITH COMPONENTS {\n"
+      "  a (0..18446744073709551615) })\n"
+      "O ::= OCTET STRING (SIZE (0..18446744073709551615))");
+  const StxTree &tree = treeOf(compiled);
+  for (const char *name : {"W", "Contained", "S", "FromSet", "Named"})
+    EXPECT_EQ(defOf(tree, name).valueField, VF_UI64) << name;
+  auto copyOf = [&](const char *name) -> const TNode & {
+    return tree.tNodes.at(static_cast<size_t>(defOf(tree, name).ref) - 1);
+  };
+  EXPECT_EQ(copyOf("Inst").valueField, VF_UI64);
+  EXPECT_EQ(copyOf("Small").valueField, VF_UI8);
+  // An inner constraint changes no component, a size no number.
+  EXPECT_EQ(copyOf("Q").valueField, VF_I32);
+  EXPECT_EQ(defOf(tree, "O").valueField, VF_DYNS);
 }

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 using testing::ElementsAre;
+using testing::IsEmpty;
 
 struct AsnErrorCase {
   const char *name;
@@ -31,17 +32,19 @@ static const AsnErrorCase errorCases[] = {
     {"DuplicateDefinition", "A ::= NULL\nA ::= BOOLEAN",
      "3:1: duplicate definition of \"A\""},
     {"SelfReference", "A ::= A", "2:1: circular definition of \"A\""},
-    {"SelectionOfItself", "A ::= a < A", "2:11: circular definition"},
-    {"ContainedInItself", "A ::= INTEGER (A)", "2:1: circular constraint"},
+    {"SelectionOfItself", "A ::= a < A",
+     "2:7: circular definition of \"a < A\""},
+    {"ContainedInItself", "A ::= INTEGER (A)",
+     "2:15: circular constraint of \"A\""},
     {"ComponentsOfItself", "A ::= SEQUENCE { COMPONENTS OF A }",
-     "2:1: circular COMPONENTS OF"},
+     "2:32: circular COMPONENTS OF \"A\""},
     {"ValueOfItself", "a INTEGER ::= a", "2:1: circular definition of \"a\""},
     {"TypeForValue", "a INTEGER ::= o\no BOOLEAN ::= TRUE",
-     "2:15: the value does not fit its type"},
+     "2:15: value \"o\" does not fit its type"},
     {"SelectionFromBoolean", "A ::= BOOLEAN\nB ::= a < A",
-     "3:11: selection from a type that is no CHOICE"},
+     "3:11: selection from \"A\", which is no CHOICE"},
     {"NoAlternative", "A ::= CHOICE { a NULL }\nB ::= b < A",
-     "3:7: the CHOICE has no alternative \"b\""},
+     "3:7: \"A\" has no alternative \"b\""},
 };
 
 static std::string caseName(const testing::TestParamInfo<AsnErrorCase> &info)
@@ -61,7 +64,7 @@ TEST(AsnResolve, SeveralErrorsInOneRun)
               ElementsAre("2:1: circular definition of \"A\"",
                           "3:1: circular definition of \"B\"",
                           "4:7: \"Nowhere\" is not defined",
-                          "5:15: the value does not fit its type"));
+                          "5:15: value \"TRUE\" does not fit its type"));
 }
 
 TEST(AsnResolve, RecursionThroughComponentsIsNoCircle)
@@ -183,7 +186,7 @@ TEST(AsnResolve, PrefixOfTheName)
   AsnCompiled compiled = compileAsn("Long-Name DEFINITIONS ::= BEGIN END\n"
                                     "Ab DEFINITIONS ::= BEGIN END\n");
   ASSERT_EQ(compiled.trees.size(), 2u);
-  EXPECT_EQ(compiled.trees[0].prefix, "long-");
+  EXPECT_EQ(compiled.trees[0].prefix, "long");
   EXPECT_EQ(compiled.trees[1].prefix, "ab");
 }
 
@@ -260,4 +263,80 @@ TEST(AsnResolve, TagDefaults)
     EXPECT_EQ(header.tagDefaultAndUse, row.tagDefault) << row.words;
     EXPECT_EQ(header.automaticTags, row.automatic) << row.words;
   }
+}
+
+// Chains
+
+// "T0 ::= T1", "T1 ::= T2" and so on, up to `last`.
+static std::string chainOf(int length, const std::string &between,
+                           const std::string &last)
+{
+  std::string body;
+  for (int i = 0; i < length; ++i) {
+    std::string next = std::to_string(i + 1);
+    body += "T" + std::to_string(i) + " ::= " + between + "T" + next + "\n";
+  }
+  return body + "T" + std::to_string(length) + " ::= " + last;
+}
+
+TEST(AsnResolve, LongChainOfTypesIsNoCircle)
+{
+  AsnCompiled compiled =
+      compileBody(chainOf(3000, "", "INTEGER (0..7)") + "\nv T0 ::= 4");
+  EXPECT_THAT(compiled.errors, IsEmpty());
+  AsnCompiled circle = compileBody(chainOf(3000, "", "T2999"));
+  EXPECT_THAT(circle.errors,
+              ElementsAre("3001:1: circular definition of \"T2999\"",
+                          "3002:1: circular definition of \"T3000\""));
+}
+
+TEST(AsnResolve, LongChainOfContainedTypesIsNoCircle)
+{
+  std::string body;
+  for (int i = 0; i < 1500; ++i)
+    body += "T" + std::to_string(i) + " ::= INTEGER (T" +
+            std::to_string(i + 1) + ")\n";
+  AsnCompiled compiled =
+      compileBody(body + "T1500 ::= INTEGER (0..18446744073709551615)");
+  EXPECT_THAT(compiled.errors, IsEmpty());
+  const StxTree &tree = treeOf(compiled);
+  size_t first = static_cast<size_t>(typeNamed(tree, "T0")) - 1;
+  EXPECT_EQ(tree.tNodes[first].valueField, VF_UI64);
+}
+
+TEST(AsnResolve, LongChainOfClassesIsNoCircle)
+{
+  AsnCompiled compiled =
+      compileBody(chainOf(3000, "", "CLASS { &id INTEGER }") +
+                  "\no T0 ::= { &id 1 }\nS T1 ::= { o }");
+  EXPECT_THAT(compiled.errors, IsEmpty());
+}
+
+TEST(AsnResolve, LongChainOfValuesIsNoCircle)
+{
+  std::string body = "T ::= [v0] NULL\n";
+  for (int i = 0; i < 3000; ++i)
+    body += "v" + std::to_string(i) + " INTEGER ::= v" + std::to_string(i + 1) +
+            "\n";
+  EXPECT_THAT(compileBody(body + "v3000 INTEGER ::= 5").errors, IsEmpty());
+  // What only leads to a circle is not on it, but no number comes of it.
+  EXPECT_THAT(compileBody("a INTEGER ::= b\nb INTEGER ::= c\n"
+                          "c INTEGER ::= b")
+                  .errors,
+              ElementsAre("3:1: circular definition of \"b\"",
+                          "4:1: circular definition of \"c\""));
+  EXPECT_EQ(errorOf("T ::= [v] NULL\nv INTEGER ::= v\n"), "2 errors");
+}
+
+TEST(AsnResolve, DeepReferencesAreBounded)
+{
+  // Each selection needs the type behind it.
+  std::string body;
+  for (int i = 0; i < 1000; ++i)
+    body +=
+        "T" + std::to_string(i) + " ::= a < T" + std::to_string(i + 1) + "\n";
+  AsnCompiled compiled = compileBody(body + "T1000 ::= CHOICE { a NULL }");
+  ASSERT_FALSE(compiled.errors.empty());
+  EXPECT_THAT(compiled.errors[0],
+              testing::HasSubstr("references are nested too deeply"));
 }

@@ -208,8 +208,11 @@ static void genClassDefinition(Compilation &c, ModuleState &module,
     node.mainType = static_cast<uint8_t>(found.builtin);
   else if (found.node.node != 0)
     makeSynonym(c, module.number, def.node, found.node);
-  else
+  else {
+    // An instance, which other uses of the same may refer to.
+    c.classInstances.insert({{module.number, found.scope}, def.node});
     genClassInto(c, module.number, *found.scope, *found.objectClass, def.node);
+  }
 }
 
 static void genTypeDefinition(Compilation &c, ModuleState &module,
@@ -349,6 +352,7 @@ static void annotate(Compilation &c, ModuleState &module)
 
 static void finishTrees(Compilation &c)
 {
+  spreadWideNodes(c);
   for (ModuleState &module : c.modules)
     for (size_t i = 0; i < module.tree.tNodes.size(); ++i)
       representType(c, module.number, static_cast<int32_t>(i) + 1);

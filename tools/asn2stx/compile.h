@@ -190,13 +190,15 @@ struct Compilation {
 
   // Searches that are under way, see `Walk`: kind, what, scope.
   std::vector<std::tuple<int, const void *, const Scope *>> walks;
+  bool isDepthTold = false;  // that there are too many of them
 
   // What is left to do; the lists grow while they are worked off.
   std::deque<LateConstraints> lateConstraints;
   std::deque<LateValue> lateValues;
   std::deque<LateSelection> lateSelections;
 
-  // INTEGER nodes with an end that 64 bits do not hold.
+  // INTEGER nodes with an end that is written as a number and that the bounds
+  // of a node have no place for.
   std::set<std::pair<int, int32_t>> wideNodes;
 
   // Where types of constraints and COMPONENTS OF are named, for errors that

@@ -167,7 +167,8 @@ static bool addObjects(Compilation &c, const AstElem &elem, const Scope &scope,
   case AE_EXCEPT:
     return addCombined(c, elem, scope, objectClass, objects);
   default:
-    asnError(c.errors, elem.pos, "objects cannot be taken from this set");
+    asnError(c.errors, elem.pos, "objects cannot be taken from a set with %s",
+             elemShown(elem).c_str());
     return false;
   }
 }

@@ -513,39 +513,22 @@ static bool isWideEnd(Compilation &c, const AstValue &written,
           at->text == std::to_string(isUpper ? INT64_MAX : INT64_MIN));
 }
 
-static bool setReachesBeyond(Compilation &c, const AstConstraint *set,
-                             const Scope *scope)
+// The same of a name: what a parameter stands for is part of the constraint,
+// what a definition holds is looked up among the nodes.
+static bool nameReachesBeyond(Compilation &c, const AstType &name,
+                              const Scope &scope)
 {
-  return set && set->root && scope && reachesBeyond(c, *set->root, *scope);
-}
-
-// The same of a type or value set by name, with what that refers to.
-static bool isWideType(Compilation &c, const AstType &type, const Scope &scope)
-{
-  Walk walk(c, WALK_WIDE, &type, &scope);
-  TypeUse at = {&type, &scope};
-  CircleGuard<TypeUse> guard;
-  while (walk.isGood() && at.type && !guard.repeats(at)) {
-    for (const AstConstraint *constraint : at.type->constraints)
-      if (setReachesBeyond(c, constraint, at.scope))
-        return true;
-    if (at.type->kind != AT_REFERENCE)
+  const AstType *type = &name;
+  const Scope *at = &scope;
+  while (type && type->kind == AT_REFERENCE) {
+    Found found = findName(c, type->ref, *at);
+    if (!found.binding)
       return false;
-    Found found = findName(c, at.type->ref, *at.scope);
-    if (found.binding) {
-      const AstActual &actual = *found.binding->actual;
-      if (setReachesBeyond(c, actual.set, found.binding->scope))
-        return true;
-      at = {actual.type, found.binding->scope};
-      continue;
-    }
-    if (!found.def ||
-        (found.def->kind != DK_TYPE && found.def->kind != DK_VALUE_SET))
-      return false;
-    TypeUse next = nextType(c, *at.type, *at.scope);
-    if (setReachesBeyond(c, found.def->assign->set, next.scope))
-      return true;
-    at = next;
+    const AstActual &actual = *found.binding->actual;
+    at = found.binding->scope;
+    if (actual.set)
+      return actual.set->root && reachesBeyond(c, *actual.set->root, *at);
+    type = actual.type;
   }
   return false;
 }
@@ -558,7 +541,7 @@ static bool reachesBeyond(Compilation &c, const AstElem &elem,
     return (elem.lower && isWideEnd(c, *elem.lower, scope, false)) ||
            (elem.upper && isWideEnd(c, *elem.upper, scope, true));
   case AE_TYPE:
-    return isWideType(c, *elem.type, scope);
+    return nameReachesBeyond(c, *elem.type, scope);
   case AE_UNION:
   case AE_INTERSECTION:
     return std::any_of(elem.operands.begin(), elem.operands.end(),

@@ -490,7 +490,8 @@ void genFieldTypeInto(Compilation &c, int into, const Scope &scope,
   if (type.kind == AT_INSTANCE_OF)
     return genInstanceOf(c, into, scope, type, node);
   if (type.ref.name.empty() || type.fields.empty()) {
-    asnError(c.errors, type.pos, "a field without its class");
+    asnError(c.errors, type.pos, "field %s without its class",
+             typeShown(type).c_str());
     return;
   }
   // What an object has there was put in its place, or an error was told.

@@ -478,7 +478,9 @@ static int32_t genElem(SetRun &run, const Scope &scope, const AstElem &elem)
   case AE_ALL_EXCEPT:
     return genOperands(run, scope, elem);
   default:
-    asnError(run.c.errors, elem.pos, "an object or object set is needed here");
+    asnError(run.c.errors, elem.pos,
+             "an object or object set is needed here, not %s",
+             elemShown(elem).c_str());
     return 0;
   }
 }

@@ -161,7 +161,8 @@ static bool oidArcs(Compilation &c, const Scope &scope, const AstValue &value,
     for (const AstArc &arc : at->braces->arcs)
       good = good && addArc(c, *atScope, arc, isRelative, arcs);
     if (arcs.size() > maxStriUnits / 4) {
-      asnError(c.errors, at->pos, "too many arcs");
+      asnError(c.errors, at->pos, "%s has too many arcs",
+               valueShown(*at).c_str());
       good = false;
     }
   } else {
@@ -247,7 +248,8 @@ void genOidValue(Compilation &c, int into, const Scope &scope,
   }
   std::string text = pointedText(arcs);
   if (text.size() >= maxStriUnits) {
-    asnError(c.errors, value.pos, "too many arcs");
+    asnError(c.errors, value.pos, "%s has too many arcs",
+             valueShown(value).c_str());
     return;
   }
   int32_t stri = stxStri(tree, text);

@@ -2,6 +2,7 @@
 // depend on the node alone and on the options of the catalogue.
 
 #include "asn2stx/represent.h"
+#include "asn2stx/gentype.h"
 #include <algorithm>
 
 // The bounds of a node as numbers; the infinities of the tree are the limits.
@@ -70,6 +71,55 @@ static uint8_t integerField(const GlobalOptions &options, Bounds bounds,
   if (isOpen(bounds.lower) && isOpen(bounds.upper) && !isWide)
     return VF_I32;
   return smallestField(bounds, isWide);
+}
+
+// The bases of the subtypes that a node's constraint contains.
+static std::vector<NodeAt> containedNodes(Compilation &c, int module,
+                                          const TNode &node)
+{
+  std::vector<NodeAt> found;
+  StxTree &tree = treeOf(c, module);
+  std::vector<int32_t> open = {node.firstConstraint};
+  while (!open.empty()) {
+    int32_t index = open.back();
+    open.pop_back();
+    const SubRec *sub = index != 0 ? &stxSubAt(tree, index) : nullptr;
+    if (!sub)
+      continue;
+    if (sub->kind == SUB_INCLUDES) {
+      const VNode &carrier = stxValueAt(tree, sub->operand1);
+      found.push_back(baseNode(c, {module, carrier.firstChild}));
+    } else if (sub->kind >= SUB_UNION && sub->kind <= SUB_CATENATED) {
+      for (int32_t at = sub->operand1; at != 0; at = stxSubAt(tree, at).nextSub)
+        open.push_back(at);
+    }
+  }
+  return found;
+}
+
+void spreadWideNodes(Compilation &c)
+{
+  if (c.wideNodes.empty())
+    return;
+  // From a subtype to those that contain it.
+  std::map<std::pair<int, int32_t>, std::vector<std::pair<int, int32_t>>> users;
+  for (ModuleState &module : c.modules)
+    for (size_t i = 0; i < module.tree.tNodes.size(); ++i) {
+      const TNode &node = module.tree.tNodes[i];
+      if (node.mainType == TYP_INTEGER)
+        for (NodeAt at : containedNodes(c, module.number, node))
+          users[{at.module, at.node}].push_back(
+              {module.number, static_cast<int32_t>(i) + 1});
+    }
+  std::vector<std::pair<int, int32_t>> open(c.wideNodes.begin(),
+                                            c.wideNodes.end());
+  while (!open.empty()) {
+    std::pair<int, int32_t> wide = open.back();
+    open.pop_back();
+    for (const std::pair<int, int32_t> &user : users[wide])
+      if (c.wideNodes.insert(user).second)
+        open.push_back(user);
+  }
 }
 
 static Bounds itemBounds(StxTree &tree, int32_t first)

@@ -28,9 +28,11 @@ void tellWalk(const Walk &walk, AsnPos pos, const std::string &shown)
 {
   if (walk.isCircle)
     asnError(walk.c.errors, pos, "circular definition of %s", shown.c_str());
-  else if (walk.isTooDeep)
+  // Once is enough: the next definition of the chain would tell it again.
+  else if (walk.isTooDeep && !walk.c.isDepthTold)
     asnError(walk.c.errors, pos, "%s: references are nested too deeply",
              shown.c_str());
+  walk.c.isDepthTold = walk.c.isDepthTold || walk.isTooDeep;
 }
 
 static bool isPredefinedClass(const std::string &name)

@@ -1,4 +1,4 @@
-// Types and values in messages.
+// Types, values and elements of constraints in messages.
 
 #include "asn2stx/shown.h"
 #include <iterator>
@@ -98,7 +98,43 @@ std::string valueShown(const AstValue &value)
     return value.type ? typeShown(*value.type) : asnQuoted(":");
   case AV_CONTAINING:
     return asnQuoted("CONTAINING");
+  case AV_BRACES:
+    if (!value.braces->arcs.empty() && !value.braces->arcs[0].ref.name.empty())
+      return asnQuoted(value.braces->arcs[0].ref.name);
+    [[fallthrough]];
   default:
     return asnQuoted("{");
   }
+}
+
+// By AstElemKind; null: what stands in the element is shown.
+static const char *const elemWords[] = {
+    nullptr,            // AE_VALUE
+    nullptr,            // AE_RANGE
+    "SIZE",             // AE_SIZE
+    "FROM",             // AE_FROM
+    nullptr,            // AE_TYPE
+    "|",                // AE_UNION
+    "^",                // AE_INTERSECTION
+    "EXCEPT",           // AE_EXCEPT
+    "ALL EXCEPT",       // AE_ALL_EXCEPT
+    "WITH COMPONENT",   // AE_WITH_COMPONENT
+    "WITH COMPONENTS",  // AE_WITH_COMPONENTS
+    "CONTAINING",       // AE_CONTAINING
+    "ENCODED BY",       // AE_ENCODED_BY
+    "CONSTRAINED BY",   // AE_CONSTRAINED_BY
+    "PATTERN",          // AE_PATTERN
+    "SETTINGS",         // AE_SETTINGS
+    "{",                // AE_TABLE
+};
+static_assert(std::size(elemWords) == AE_COUNT);
+
+std::string elemShown(const AstElem &elem)
+{
+  if (elem.type && elem.kind == AE_TYPE)
+    return typeShown(*elem.type);
+  const AstValue *value = elem.kind == AE_RANGE ? elem.lower : elem.value;
+  if (!elemWords[elem.kind])
+    return value ? valueShown(*value) : asnQuoted("MIN");
+  return asnQuoted(elemWords[elem.kind]);
 }

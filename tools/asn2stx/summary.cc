@@ -113,7 +113,7 @@ static void addCounts(CompsSum &sum, int32_t count, uint16_t bits,
 }
 
 // The root components that a COMPONENTS OF node stands for.
-static CompsSum sumOfCompsOf(FlattenRun &run, NodeAt at, int fatherType)
+static CompsSum sumOfCompsOf(FlattenRun &run, NodeAt at, int structureType)
 {
   Compilation &c = run.c;
   NodeAt base = baseNode(c, at);
@@ -121,9 +121,10 @@ static CompsSum sumOfCompsOf(FlattenRun &run, NodeAt at, int fatherType)
     return {};
   NamedPlace place = placeOf(c, at);
   int mainType = nodeAt(c, base).mainType;
-  if (mainType != fatherType && fatherType != TYP_EXTADDGRP) {
+  if (mainType != structureType) {
     asnError(c.errors, place.pos, "COMPONENTS OF %s: the type is no %s",
-             place.shown.c_str(), fatherType == TYP_SET ? "SET" : "SEQUENCE");
+             place.shown.c_str(),
+             structureType == TYP_SET ? "SET" : "SEQUENCE");
     return {};
   }
   const CompsSum &inner = sumOf(run, base);
@@ -135,11 +136,12 @@ static CompsSum sumOfCompsOf(FlattenRun &run, NodeAt at, int fatherType)
   return inner;
 }
 
-static void addChain(FlattenRun &run, NodeAt father, bool automatic,
-                     CompsSum &sum)
+// Adds the components of a structure, or of an addition group in one of
+// `structureType`.
+static void addChain(FlattenRun &run, NodeAt father, int structureType,
+                     bool automatic, CompsSum &sum)
 {
   Compilation &c = run.c;
-  int fatherType = nodeAt(c, father).mainType;
   int32_t index = nodeAt(c, father).ref;
   bool behindMarker = false;
   while (index != 0) {
@@ -147,7 +149,7 @@ static void addChain(FlattenRun &run, NodeAt father, bool automatic,
     const TNode &node = nodeAt(c, at);
     behindMarker = behindMarker || node.mainType == TYP_EXTENSION_MARKER;
     if (node.compStatus == TCS_COMPOF) {
-      CompsSum inner = sumOfCompsOf(run, at, fatherType);
+      CompsSum inner = sumOfCompsOf(run, at, structureType);
       addCounts(
           sum, inner.root,
           static_cast<uint16_t>(inner.rootBits & ~(automatic ? NF_UNTAGGED_COMPS
@@ -155,7 +157,7 @@ static void addChain(FlattenRun &run, NodeAt father, bool automatic,
           behindMarker);
     } else if (node.mainType == TYP_EXTADDGRP) {
       CompsSum members;
-      addChain(run, at, automatic, members);
+      addChain(run, at, structureType, automatic, members);
       TNode &group = stxTypeAt(treeOf(c, at.module), index);
       group.nrComps = members.total;
       group.nodeFlags |= members.bits;
@@ -184,7 +186,8 @@ static const CompsSum &sumOf(FlattenRun &run, NodeAt at)
   } else {
     CompsSum made;
     TNode &node = stxTypeAt(treeOf(c, at.module), at.node);
-    addChain(run, at, (node.nodeFlags & NF_AUTOMATIC_TAGS) != 0, made);
+    addChain(run, at, node.mainType, (node.nodeFlags & NF_AUTOMATIC_TAGS) != 0,
+             made);
     node.nrComps = made.total;
     node.nodeFlags |= made.bits;
     sum = made;
