@@ -421,11 +421,8 @@ static void checkLeaf(AsnType &type)
 {
   int mainType = getTypeMainType(type);
   if (mainType == TYP_INTEGER || mainType == TYP_ENUM) {
-    if (isSimpleIntegerValueSet(type))
-      return;
-    // No test is written for a set without any value: it fails always.
-    cCheckIntegerValueSet(check.glbFileInd, type);
-    reportFailure();
+    if (cCheckIntegerValueSet(check.glbFileInd, type))
+      reportFailure();
     return;
   }
   bool hasLength = mainType == TYP_BITSTR || mainType == TYP_OCTSTR ||

@@ -19,14 +19,16 @@ static bool isLinkedList(const AsnType &type)
   return getVF(type) == VF_LIST;
 }
 
-// The most elements or characters that the C type takes, with a warning if
+static const char tooLarge[] = "Size constraint upper bound > MAXINT32";
+
+// The most elements or characters that the C type takes; 0 and a warning if
 // the number does not fit in 32 bits.
 static int32_t sizeLimitOf(const AsnType &type)
 {
   sint64 lower, upper, limit;
   getInt64SizeEndpoints(type, lower, upper, limit);
   return int64ToInt32(limit, getModuleOfType(type), getTypeDefinitionLine(type),
-                      "Size constraint upper bound > MAXINT32");
+                      tooLarge);
 }
 
 // --- initialisation and size ------------------------------------------------
@@ -258,6 +260,7 @@ void cEndWhileLoop(int file, AsnType &type, AsnType *)
 
 // --- upper bound ------------------------------------------------------------
 
+// Unlike a size, the limit is written whole, however large it is.
 static void cCheckListUpperBoundEngine(int file, AsnType &comp,
                                        const char *action, bool report)
 {
@@ -266,9 +269,12 @@ static void cCheckListUpperBoundEngine(int file, AsnType &comp,
   getInt64SizeEndpoints(list, lower, upper, limit);
   if (i64ismax(upper))
     return;
-  int32_t bound = sizeLimitOf(list);
+  int32_t narrow = 0;
+  if (!i64tol(limit, narrow))
+    int64Warning(*getModuleOfType(list), getTypeDefinitionLine(list), tooLarge);
   cSizeToF(file, "if (", list, false, " >=");
-  printfToF(file, " %d%s)", bound, getVFSize(list) == VF_I32 ? "L" : "");
+  printfToF(file, " %s%s)", i64text(limit).c_str(),
+            getVFSize(list) == VF_I32 ? "L" : "");
   cOpenBrace(file);
   wToF(file, action);
   if (report)
@@ -296,12 +302,6 @@ void cCheckListUpperBoundWithActionAndBreak(int file, AsnType &comp,
 
 // --- value sets -------------------------------------------------------------
 
-static std::string decimal(sint64 number)
-{
-  char digits[32];
-  return i64tostr(number, digits, sizeof digits);
-}
-
 // Of the walk over the segments.
 static struct GapTest {
   int file = 0;
@@ -315,8 +315,8 @@ static void gapsOfSegment(AsnType &, const Int64Pair &pair, int index)
 {
   int file = gapTest.file;
   const char *value = gapTest.value.c_str();
-  std::string lower = decimal(pair.lower);
-  std::string upper = decimal(pair.upper);
+  std::string lower = i64text(pair.lower);
+  std::string upper = i64text(pair.upper);
   if (index > 0)
     wToF(file, " && ");
   if (index == 0)
@@ -330,13 +330,14 @@ static void gapsOfSegment(AsnType &, const Int64Pair &pair, int index)
 
 static void passSegment(AsnType &, const Int64Pair &, int) {}
 
+// A set without any segment has no gap to name, yet it is not simple: the
+// brackets of its condition stay empty.
 bool cCheckIntegerValueSet(int file, AsnType &type)
 {
-  int count = forInt64ValueSet(type, passSegment);
-  if (count < 2)
+  if (isSimpleIntegerValueSet(type))
     return false;
   gapTest.file = file;
-  gapTest.last = count - 1;
+  gapTest.last = forInt64ValueSet(type, passSegment) - 1;
   bool inMember = isExtensibleEnumeratedList(type);
   cHome(gapTest.value, nullptr, false, type, inMember,
         inMember ? "value" : nullptr);

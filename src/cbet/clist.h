@@ -40,6 +40,6 @@ void cCheckListUpperBoundWithActionAndBreak(int file, AsnType &comp,
                                             const char *action);
 
 // Begins the test whether a number lies in a gap of the type's value set; the
-// caller writes the block. False, with nothing written, if there is no gap.
-// What lies outside the outermost bounds is not found.
+// caller writes the block. False, with nothing written, if the set is one
+// range. What lies outside the outermost bounds is not found.
 bool cCheckIntegerValueSet(int file, AsnType &type);

@@ -248,18 +248,9 @@ void int32ToF(int file, const char *prefix, int32_t value, const char *suffix)
             orEmpty(suffix));
 }
 
-static std::string decimal(sint64 value)
-{
-  // Digits of 64 bits, a sign and the terminator.
-  std::string digits(24, 0);
-  i64tostr(value, digits.data(), digits.size());
-  digits.resize(strlen(digits.c_str()));
-  return digits;
-}
-
 void int64ToF(int file, const char *prefix, sint64 value, const char *suffix)
 {
-  printfToF(file, "%s%s%s", orEmpty(prefix), decimal(value).c_str(),
+  printfToF(file, "%s%s%s", orEmpty(prefix), i64text(value).c_str(),
             orEmpty(suffix));
 }
 
@@ -271,7 +262,7 @@ static std::string sint64Expression(sint64 value)
     return "i64min ()";
   // The smallest 32-bit number has no literal of its own in C.
   if (i64cmpl(value, INT32_MIN) > 0 && i64cmpl(value, INT32_MAX) <= 0)
-    return "i64ltosint64 (" + decimal(value) + "L)";
+    return "i64ltosint64 (" + i64text(value) + "L)";
   return formatText("i64make (%ldL, %luUL)", static_cast<long>(i64hi(value)),
                     static_cast<unsigned long>(i64lo(value)));
 }

@@ -29,13 +29,6 @@ std::string &getBaseValueId(std::string &text, const char *prefix,
 
 // --- contents ---------------------------------------------------------------
 
-static std::string decimal(sint64 number)
-{
-  // Digits of 64 bits, a sign and the terminator.
-  std::string digits(24, 0);
-  return i64tostr(number, digits.data(), digits.size());
-}
-
 std::string &booleanValueStri(std::string &text, const char *prefix,
                               const AsnValue &value, const char *suffix)
 {
@@ -50,7 +43,7 @@ static std::string integerText(sint64 number)
     return infValueStri[0];
   if (i64ismin(number))
     return infValueStri[1];
-  return decimal(number);
+  return i64text(number);
 }
 
 std::string &integerValueStri(std::string &text, const char *prefix,
@@ -77,7 +70,7 @@ static std::string realText(const RealVal &real)
 {
   if (isSpecialRealVal(real))
     return specialText(real, infValueStri[3], infValueStri[2], "0");
-  return formatText("{%s, %d, %d}", decimal(real.mantissa).c_str(), real.base,
+  return formatText("{%s, %d, %d}", i64text(real.mantissa).c_str(), real.base,
                     real.exponent);
 }
 
@@ -95,7 +88,7 @@ static std::string doubleText(const RealVal &real, uint8_t decimals)
 {
   if (isSpecialRealVal(real))
     return specialText(real, "DBL_MAX", "-DBL_MAX", "0.0");
-  std::string mantissa = decimal(real.mantissa);
+  std::string mantissa = i64text(real.mantissa);
   size_t digits = mantissa.size() - i64isneg(real.mantissa);
   size_t wanted = decimals == decimalsUnset ? defaultDecimals : decimals;
   std::string text = mantissa + ".";

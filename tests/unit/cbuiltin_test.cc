@@ -185,6 +185,16 @@ TEST_F(CBuiltin, StemsOfWhatIsNotRepresented)
   EXPECT_EQ(between(cBuiltinStringTstCFunc), "NullType");
   EXPECT_EQ(between(cBuiltinCodCFunc), "NullType");
   EXPECT_EQ(between(cBuiltinAnyCodCFunc), "NullType_0");
+  // The marks for the layout stay.
+  set(TYP_OCTSTR, VF_DYNS8, 6);
+  EXPECT_EQ(between(cBuiltinStringCFunc), "DynNullType8");
+  EXPECT_EQ(between(cBuiltinStringTstCFunc), "NullType");
+  set(TYP_OCTSTR, VF_LIST, 0);
+  EXPECT_EQ(between(cBuiltinStringCFunc), "SegNullType");
+  EXPECT_EQ(between(cBuiltinStringCodCFunc), "SegNullType");
+  set(TYP_OCTSTR, VF_FRM, 0);
+  EXPECT_EQ(between(cBuiltinStringCFunc), "Frame0");
+  EXPECT_EQ(between(cBuiltinStringTstCFunc), "Frame0");
   // The plain name does not look.
   EXPECT_EQ(between(cBuiltinCFunc), "OctetString");
 }

@@ -4,6 +4,7 @@
 #include "cbet/cvars.h"
 #include "cbet/errorformat.h"
 #include "cbet/outfile.h"
+#include "model/infvalue.h"
 #include "support/fragtrees.h"
 #include "support/loadedasn.h"
 #include "support/stringvalues.h"
@@ -19,6 +20,7 @@ struct CConstraint : LoadedAsn {
   {
     load(body);
     cSetErrorReportingFunctionFormat("error (%s);\n");
+    verboseEx = 1;
   }
 
   // What the check of a definition is, at an indentation.
@@ -100,7 +102,7 @@ TEST_F(CConstraint, SkippedAndFrames)
   EXPECT_EQ(checkOf("SEQUENCE (SIZE (2)) OF BOOLEAN --$ frame"), "");
 }
 
-TEST_F(CConstraint, ReportOfTheTool)
+TEST_F(CConstraint, DefaultReport)
 {
   load("T ::= BOOLEAN (TRUE)");
   EXPECT_EQ(writtenFor("T", 0),
@@ -108,7 +110,7 @@ TEST_F(CConstraint, ReportOfTheTool)
             "  BOOLE ok1;\n"
             "  ok1 = (*home == TRUE);\n"
             "  if (!ok1){\n"
-            "    asnPERError (ASNG_F(asnperg) CONSTRAINT_FAIL);\n"
+            "    reportError (ASNG_F(asncodg) CONSTRAINT_FAIL);\n"
             "  }\n"
             "}\n");
 }
@@ -457,7 +459,7 @@ TEST_F(CConstraint, SizesOfAString)
       checkOf("OCTET STRING (SIZE (1 | 3..5 | 8)) --$ field=stas size=i8"),
       block("  ok1 = ((staStrLen (home) == 1) || (3 <= staStrLen (home) && "
             "staStrLen (home)\n"
-            "     <= 5) || (staStrLen (home) == 8));\n"));
+            "    <= 5) || (staStrLen (home) == 8));\n"));
   EXPECT_EQ(checkOf("BIT STRING (SIZE (1 | 3)) --$ field=stas size=i8"),
             condition("((staStrLen (home) == 1) || (staStrLen (home) == 3));"));
 }
@@ -490,15 +492,24 @@ TEST_F(CConstraint, SizesOfAList)
   EXPECT_EQ(checkOf("SEQUENCE (SIZE (1 | 3)" + list),
             condition("((listLen (home) == 1) || (listLen (home) == 3));"));
   EXPECT_EQ(checkOf("SEQUENCE (SIZE (0..1 | 3..MAX)" + list),
-            block("  ok1 = ((0 <= listLen (home) && listLen (home) <= 1) || "
-                  "(3 <= listLen (home)\n"
-                  "    ));\n"));
+            condition("((0 <= listLen (home) && listLen (home) <= 1) || "
+                      "(3 <= listLen (home)));"));
+}
+
+// The sizes of the chain are one range, those of the constraint are two: each
+// begins a condition, and one end serves both.
+TEST_F(CConstraint, SizesWithinOneRange)
+{
+  EXPECT_EQ(check("B ::= SEQUENCE (SIZE (1..5)) OF NULL --$ field=list\n"
+                  "T ::= B (SIZE (1 | 3))"),
+            block("  ok1 = (listLen (home) == 1ok1 = ok1 && "
+                  "(listLen (home) == 3);\n"));
 }
 
 TEST_F(CConstraint, CutOfASimpleSize)
 {
   EXPECT_EQ(pieces("SEQUENCE (SIZE (100..MAX)) OF NULL --$ field=list"),
-            "{|BOOLE ok1;|ok1|= |(listLen (home) >=|100|);|"
+            "{|BOOLE ok1;|ok1|= |(listLen (home) >=|100);|"
             "if (!|ok1){|error (CONSTRAINT_FAIL);|}|}|");
 }
 
@@ -508,7 +519,7 @@ TEST_F(CConstraint, CutOfSizes)
       pieces("SEQUENCE (SIZE (100..200 | 300 | 400..MAX)) OF NULL "
              "--$ field=list"),
       "{|BOOLE ok1;|ok1|= ((|100|<= |listLen (home)|&& |listLen (home)|<= |200)"
-      "||| |(|listLen (home)|== |300)||| |(400|<= |listLen (home)|));|"
+      "||| (|listLen (home)|== |300)||| (|400|<= |listLen (home)));|"
       "if (!|ok1){|error (CONSTRAINT_FAIL);|}|}|");
 }
 
@@ -525,7 +536,6 @@ TEST_F(CConstraint, Unimplemented)
 {
   EXPECT_EQ(checkOf("BOOLEAN (TRUE | FALSE)"), comment);
   EXPECT_EQ(checkOf("BOOLEAN (CONSTRAINED BY {})"), comment);
-  EXPECT_EQ(checkOf("SEQUENCE OF BOOLEAN (WITH COMPONENT (TRUE))"), "");
   EXPECT_EQ(checkOf("SEQUENCE { a BOOLEAN } (WITH COMPONENTS {a (TRUE)})"),
             comment);
   EXPECT_EQ(check("B ::= SEQUENCE OF BOOLEAN\n"
@@ -630,6 +640,13 @@ TEST_F(CConstraintTrees, RangeOfOthers)
   EXPECT_EQ(check(node(TYP_BOOLEAN, VF_BOOL), range(0, 1)), comment);
 }
 
+// There is no gap to name, but the set is no range.
+TEST_F(CConstraintTrees, EnumerationWithoutItems)
+{
+  EXPECT_EQ(check(node(TYP_ENUM, VF_UI8), range(1, 5)),
+            "if (){\n  error (CONSTRAINT_FAIL);\n}\n");
+}
+
 // The test of the variable follows on the line of its value.
 TEST_F(CConstraintTrees, SingleNumber)
 {
@@ -648,10 +665,11 @@ TEST_F(CConstraintTrees, KindsWithoutCheck)
     bool isWalked = kind == SUB_CATENATED ||
                     (kind >= SUB_RANGE && kind <= SUB_SINGLE_VALUE);
     bool isPassedOver = kind == SUB_TABLE || kind == SUB_HIDDEN;
-    if (!isWalked)
-      EXPECT_EQ(check(node(TYP_NULL, VF_NULL), sub(kind)),
-                isPassedOver ? "" : comment)
-          << kind;
+    if (isWalked)
+      continue;
+    EXPECT_EQ(check(node(TYP_NULL, VF_NULL), sub(kind)),
+              isPassedOver ? "" : comment)
+        << kind;
   }
 }
 
@@ -678,9 +696,8 @@ TEST_F(CConstraintTrees, Component)
               atComp(*view, 0,
                      [](AsnType &comp_) { cCheckConstraints(1, comp_); });
             }),
-            block("  ok1 = ((staStrLen (&home->x_fld) == 1) || "
-                  "(staStrLen (&home->x_fld) == 4\n"
-                  "    ));\n"));
+            condition("((staStrLen (&home->x_fld) == 1) || "
+                      "(staStrLen (&home->x_fld) == 4));"));
 }
 
 TEST_F(CConstraintTrees, RangeOfCharacters)

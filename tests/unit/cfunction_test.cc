@@ -84,6 +84,19 @@ TEST_F(CFunction, FourForms)
                                 "Foo *home;\n");
 }
 
+// Whether the argument is passed or global is left to the macros.
+TEST_F(CFunction, ReentrantMakesNoDifference)
+{
+  std::string texts[2];
+  for (int i = 0; i < 2; ++i) {
+    options().reentrant = i == 1;
+    for (HeadWriter *writer :
+         {cFunctionProto, cFunctionDef, cEntryFunctionProto, cEntryFunctionDef})
+      texts[i] += head(writer);
+  }
+  EXPECT_EQ(texts[0], texts[1]);
+}
+
 TEST_F(CFunction, NoGenerationArgument)
 {
   for (int none : {0, 6, -1}) {
@@ -553,5 +566,16 @@ TEST_F(CFunctionNode, NotWhileInactive)
   TestType type(module, foo);
   adeRecord = {};
   cFunctionDef(1, "pe", perArg, nullptr, *type);
+  EXPECT_EQ(functions(), std::vector<std::string>());
+}
+
+TEST_F(CFunctionNode, NotWithoutAType)
+{
+  TestType type(module, foo);
+  AdeBrowserNode *current = g_adeTypeNode;
+  g_adeTypeNode = nullptr;
+  cFunctionDef(1, "pe", perArg, nullptr, *type);
+  g_adeTypeNode = current;
+  EXPECT_NE(written(), "");
   EXPECT_EQ(functions(), std::vector<std::string>());
 }

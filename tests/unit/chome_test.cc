@@ -321,6 +321,20 @@ TEST_F(CHome, ElementOfALinkedList)
   EXPECT_EQ(home(false, false), "home->a_fld");
 }
 
+// Only the mark on the list has its elements named by the iterator.
+TEST_F(CHome, ElementOfAnUnmarkedLinkedList)
+{
+  type.father = &father;
+  father.base.valueField = VF_LIST;
+  localVarCount[VAR_ASN_HOME] = 1;
+  EXPECT_EQ(home(false, false), "*home->val.i32");
+  option(father, optHomeList);
+  EXPECT_EQ(home(false, false), "a1->val.i32");
+  // It goes ahead of the table.
+  makeHometab(father);
+  EXPECT_EQ(home(false, false), "a1->val.i32");
+}
+
 TEST_F(CHome, ComponentInTheTable)
 {
   path("a_fld");

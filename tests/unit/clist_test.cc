@@ -244,7 +244,8 @@ TEST_F(CListSize, TooLargeABound)
   start();
   verboseEx = 2;
   testing::internal::CaptureStderr();
-  of(5, [](AsnType &l) { cSizeToF(1, nullptr, l, true, nullptr); });
+  EXPECT_EQ(of(5, [](AsnType &l) { cSizeToF(1, nullptr, l, true, nullptr); }),
+            "0");
   EXPECT_NE(testing::internal::GetCapturedStderr().find(
                 "** Size constraint upper bound > MAXINT32\n"),
             std::string::npos);
@@ -625,7 +626,10 @@ TEST_F(CList, TooLargeAnUpperBound)
   start();
   verboseEx = 2;
   testing::internal::CaptureStderr();
-  of(5, checkElem<cCheckListUpperBound>);
+  EXPECT_EQ(of(5, checkElem<cCheckListUpperBound>),
+            "if (staArrLen (&home->x_fld) >= 2147483648){\n"
+            "  error (AM_FAIL);\n"
+            "}\n");
   EXPECT_NE(testing::internal::GetCapturedStderr().find(
                 "** Size constraint upper bound > MAXINT32\n"),
             std::string::npos);
@@ -717,14 +721,21 @@ TEST_F(CValueSet, NoConstraint)
   EXPECT_EQ(check(0), "-");
 }
 
-TEST_F(CValueSet, EmptySet)
+// No number is left, which counts as no constraint at all.
+TEST_F(CValueSet, EmptyIntersection)
 {
   EXPECT_EQ(check(set(SUB_INTERSECTION, {single(1), single(2)})), "-");
 }
 
+// One range is the only set without a condition; no segment is none.
+TEST_F(CValueSet, EmptySet)
+{
+  EXPECT_EQ(checkOf(node(TYP_ENUM, VF_UI8)), "if ()");
+}
+
 TEST_F(CValueSet, OtherTypes)
 {
-  EXPECT_EQ(checkOf(node(TYP_BOOLEAN, VF_BOOL)), "-");
+  EXPECT_EQ(checkOf(node(TYP_BOOLEAN, VF_BOOL)), "if ()");
 }
 
 TEST_F(CValueSet, OfAnEnumeration)

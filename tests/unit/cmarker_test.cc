@@ -559,13 +559,13 @@ TEST_F(CCompMember, Cut)
       {testMember, "xxx|if (home->compmask & BIT(1))"},
       {negTestMember, "xxx|if (!(home->compmask & BIT(1)))"},
   };
-  for (const auto &[write, text] : cases) {
-    auto behindText = [&](AsnType &comp_) {
-      wToF(1, "xxx");
-      write(comp_);
-    };
+  for (const auto &c : cases) {
     atComp(*type, 1, [&](AsnType &comp_) {
-      EXPECT_EQ(pieces([&] { behindText(comp_); }), text);
+      auto behindText = [&] {
+        wToF(1, "xxx");
+        c.write(comp_);
+      };
+      EXPECT_EQ(pieces(behindText), c.text);
     });
   }
 }

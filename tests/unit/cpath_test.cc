@@ -3,7 +3,7 @@
 #include "cbet/cpath.h"
 #include "support/fragtrees.h"
 
-// Foo { bar INTEGER, list, array, pick CHOICE { one }, home }.
+// Foo { bar INTEGER, list, array, pick CHOICE { one, two }, ..., [[six]] }.
 struct CPath : FragTrees {
   int32_t foo;
   CPath()
@@ -17,6 +17,9 @@ struct CPath : FragTrees {
     int32_t pick = comp(foo, "pick", node(TYP_CHOICE, VF_STRU));
     comp(pick, "one", node(TYP_INTEGER, VF_I32));
     comp(pick, "two", node(TYP_SEQ, VF_STRU, {optAsnhc}));
+    marker(foo);
+    int32_t group = comp(foo, "", TYP_EXTADDGRP);
+    comp(group, "six", optional(node(TYP_INTEGER, VF_I32)));
     start();
     options().pushPath = 1;
   }
@@ -71,6 +74,13 @@ TEST_F(CPath, Alternative)
   EXPECT_EQ(of(3, ofInner<1, pushComp>),
             "pushPath (ASNG_F(asncodg) \"two_fld\");\n");
   EXPECT_EQ(of(3, ofInner<1, popComp>), "popPath (ASNG_F(asncodg) 8);\n");
+}
+
+// It has no name of its own.
+TEST_F(CPath, AdditionGroup)
+{
+  EXPECT_EQ(of(5, pushComp), "pushPath (ASNG_F(asncodg) \"_fld\");\n");
+  EXPECT_EQ(of(5, popComp), "popPath (ASNG_F(asncodg) 5);\n");
 }
 
 TEST_F(CPath, Element)

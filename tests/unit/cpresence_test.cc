@@ -82,6 +82,15 @@ TEST_F(CPresence, ByTheMaskOfAnInnerStructure)
   EXPECT_EQ(written(), "(home->in_fld.compmask & BIT(0))");
 }
 
+// The test asks the structure even if its mask has no size.
+TEST_F(CPresence, ByAMaskWithoutSize)
+{
+  addTwo();
+  at(foo).valueFieldSize = VF_NONE;
+  start();
+  EXPECT_EQ(of(1, testComp), "(home->compmask & BIT(1))");
+}
+
 // A structure in a home is named by the variable that is bound to it.
 TEST_F(CPresence, ByTheMaskInABlock)
 {
@@ -153,6 +162,10 @@ TEST_F(CPresence, Cut)
   atComp(*type, 1, [&](AsnType &c) {
     EXPECT_EQ(pieces([&] { wholeTest(*type, c); }),
               "if (|(home->compmask & BITL(1))){|x;|}");
+    EXPECT_TRUE(endsApart([&] {
+      cBeginTestOptionalComp(1, *type, c);
+      --fArr[1].indent;
+    }));
   });
 }
 
