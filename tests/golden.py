@@ -54,7 +54,8 @@ TIMEOUT = 60  # seconds a run; a hang is a failure
 UNALIGNED = b"-ENCODING-VARIANT=basic-unaligned"
 GENERATED_START = b"/****"
 COMPANIONS = {b"!asn2stx": "tools/asn2stx/asn2stx",
-              b"!stxdump": "tools/stx/stxdump"}
+              b"!stxdump": "tools/stx/stxdump",
+              b"!tracegen": "tests/tracegen"}
 TREE_STAMP = "--stamp=20240101:120000"
 STAMP_LINE = re.compile(
     rb"^(?P<before>.*Processed by QUORVEN\b.*?)"

@@ -57,9 +57,7 @@ static bool followChain(const AsnType &type, TypeVisit *visit)
 
 static void enterNext(AsnType &step, TypeVisit *visit)
 {
-  if (stepNesting >= maxWalkNesting)
-    treeInconsistent(step.compModRec);
-  NestingGuard nesting(stepNesting, step.compModRec);
+  WalkNesting nesting(stepNesting, step.compModRec);
   forNextDefinedType(step, visit);
 }
 
@@ -130,7 +128,16 @@ bool cIsBaseTypeGeneratedInCurrentModule(const AsnType &type)
   return cached(type, baseGeneratedHere, findGeneratedHere);
 }
 
-bool cIsSupportedObjClassField(int fieldKind)
+bool cIsSupportedObjClassField(const AsnObjClassField &field)
 {
-  return (fieldKind >= 0 && fieldKind <= 2) || fieldKind == 5 || fieldKind == 6;
+  switch (getObjClassFieldKind(field)) {
+  case FIELD_TYPE:
+  case FIELD_FIXED_TYPE_VALUE:
+  case FIELD_FIXED_TYPE_VALUE_SET:
+  case FIELD_OBJECT:
+  case FIELD_OBJECT_SET:
+    return true;
+  default:
+    return false;
+  }
 }

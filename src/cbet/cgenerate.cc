@@ -8,6 +8,7 @@
 // `stampGAD` all is there.
 
 #include "cbet/cgenerate.h"
+#include "base/strings.h"
 #include "base/upcalls.h"
 #include "cbet/cconstraint.h"
 #include "cbet/cfunction.h"
@@ -153,10 +154,8 @@ static void callHomeArg(AsnType &type, const char *tail)
   if (testTypeOption(type, optAsnHome)) {
     cAsnHomeCompRefToF(file, nullptr, true, type, false, tail);
   } else if (isVarnoApplication(*getModuleOfType(type))) {
-    wToF(file, "(");
-    wToF(file, getDefBaseTypeId(text, nullptr, type, nullptr).c_str());
-    wToF(file, " *)hometab");
-    wToF(file, tail);
+    getDefBaseTypeId(text, "(", type, " *)hometab");
+    wToF(file, (text + orEmpty(tail)).c_str());
   } else {
     wToF(file, cHomeRef(text, nullptr, true, type, false, tail).c_str());
   }

@@ -303,9 +303,8 @@ std::string &cASN1VariableName(std::string &text, const char *prefix,
   return text += orEmpty(suffix);
 }
 
-void cUpdateBuiltinTypeFieldType(AsnType &type, const FixRec &field,
-                                 const FixRec &objClass)
+void cUpdateBuiltinTypeFieldType(AsnType &type, const AsnObjClassField &field)
 {
-  type.compFix = field;
-  type.baseFix = objClass;
+  type.compFix = field.fix;
+  type.baseFix = field.objClass->baseFix;
 }

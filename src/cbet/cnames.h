@@ -1,5 +1,6 @@
 #pragma once
 #include "model/asntype.h"
+#include "model/objclassfield.h"
 #include <string>
 
 // C names of types, as the generator of their definitions names them, and
@@ -43,11 +44,9 @@ bool cIsDefinedBaseType(const AsnType &type);
 // diagnostics, a selection type of several modules draws a warning.
 bool cIsBaseTypeGeneratedInCurrentModule(const AsnType &type);
 
-// True for the kinds of fields of object classes that the toolkit knows: all
-// but fields of variable type. Numbered as in the views of fields: 0 a type, 1
-// and 2 a value and a value set of fixed type, 3 and 4 of variable type, 5 and
-// 6 an object and an object set.
-bool cIsSupportedObjClassField(int fieldKind);
+// True for the fields of object classes that the toolkit knows: all but those
+// of variable type.
+bool cIsSupportedObjClassField(const AsnObjClassField &field);
 
 // --- Names.
 
@@ -80,5 +79,4 @@ std::string &cASN1VariableName(std::string &text, const char *prefix,
                                const AsnType &type, const char *suffix);
 
 // Names a type field of a built-in class after the class and the field.
-void cUpdateBuiltinTypeFieldType(AsnType &type, const FixRec &field,
-                                 const FixRec &objClass);
+void cUpdateBuiltinTypeFieldType(AsnType &type, const AsnObjClassField &field);

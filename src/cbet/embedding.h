@@ -1,5 +1,6 @@
 #pragma once
 #include "model/asntype.h"
+#include "model/objclass.h"
 
 // Embedding lines of a type, of all nodes from the one that it stands on to
 // its base. The selector is a place of `tedArr`: lines ahead of the code come
@@ -13,3 +14,7 @@ void printTypeEmbeddingOptions(int file, const AsnType &type, int selector);
 void printLocalTypeEmbeddingOptions(int file, const AsnType &type,
                                     int selector);
 void printBaseTypeEmbeddingOptions(int file, const AsnType &type, int selector);
+
+// All lines of a class, by the same rules; a class without fields is a leaf.
+void printObjClassEmbeddingOptions(int file, const AsnObjClass &objClass,
+                                   int selector);

@@ -48,9 +48,7 @@ bool cIsSizeLimit(const AsnType &type)
   return type.base.typeOptions.sizeLimit != 0;
 }
 
-// A leaf, the SKIP option aside: a skipped structure is walked as the
-// structure that it is.
-static bool isNonSkippedLeafType(AsnType &type)
+bool isNonSkippedLeafType(AsnType &type)
 {
   uint32_t options = type.base.nodeOptions;
   type.base.nodeOptions &= ~(1u << optSkip);
@@ -86,9 +84,11 @@ static void skipIgnoreTravComponent(AsnType &father, AsnType &comp, int)
   if (!skipAdditions) {
     skipComponent(comp);
   } else if (canGenerateIgnoreComponents(father)) {
+    // One call for all additions, what a second marker announces included.
     if (isExtensionRootComponent(&father, comp))
       skipComponent(comp);
-    else if (isTypeExtensionmarker(comp))
+    else if (isTypeExtensionmarker(comp) &&
+             getTypeCompNbr(comp) == getTypeExtensionmarkerCompNbr(father))
       skipAdditions(father, info);
   }
 }

@@ -21,5 +21,9 @@ void handleReferredIgnorableType(AsnType &type);
 // The front-end asks for an ignore function.
 bool cIsIgnorable(const AsnType &type);
 
+// A leaf, the SKIP option aside: a skipped structure is walked as the
+// structure that it is.
+bool isNonSkippedLeafType(AsnType &type);
+
 // The type has a SIZE-LIMIT.
 bool cIsSizeLimit(const AsnType &type);

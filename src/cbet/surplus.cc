@@ -2,6 +2,7 @@
 // what it stores. Where the limit's action is to ignore them they are read in
 // a loop of their own, counted in "nIgnored" and dropped.
 
+#include "base/int64.h"
 #include "base/strings.h"
 #include "cbet/cgenerate.h"
 #include "cbet/chome.h"
@@ -85,12 +86,13 @@ static void testIfTooManyExtraElems(AsnType &list)
     return;
   sint64 lower, upper, limit;
   getInt64SizeEndpoints(list, lower, upper, limit);
-  int32_t bound =
-      int64ToInt32(upper, getModuleOfType(list), getTypeDefinitionLine(list),
-                   "Size constraint upper bound > MAXINT32");
+  int32_t narrow = 0;
+  if (!i64tol(upper, narrow))
+    int64Warning(*getModuleOfType(list), getTypeDefinitionLine(list),
+                 "Size constraint upper bound > MAXINT32");
   std::string n;
   cNVarRef(n, nullptr, nullptr);
-  printfToF(info.implFile, "if (%s >= %d)", n.c_str(), bound);
+  printfToF(info.implFile, "if (%s >= %s)", n.c_str(), i64text(upper).c_str());
   cOpenBrace(info.implFile);
   if (info.genKind == GEN_CONSTRUCT_CHECKED)
     cReportError(info.implFile,
@@ -109,7 +111,7 @@ static void testIfMoreExtraElems(AsnType &comp)
                comp, info);
 }
 
-static bool hasSurplusLoop(const AsnType &list)
+bool hasSurplusLoop(const AsnType &list)
 {
   if (!isConstructKind(*glbInfo) || !dropsSurplusElems(list))
     return false;

@@ -45,9 +45,7 @@ static bool isUntaggedChoice(const AsnType &type)
 
 static void ifChoiceTag(AsnType &, AsnType &alternative, int)
 {
-  if (choiceNesting >= maxWalkNesting)
-    treeInconsistent(alternative.baseModRec);
-  NestingGuard nesting(choiceNesting, alternative.baseModRec);
+  WalkNesting nesting(choiceNesting, alternative.baseModRec);
   if (isUntaggedChoice(alternative))
     forEachTypeComp(alternative, ifChoiceTag);
   else

@@ -45,7 +45,10 @@ void checkListUpperBound(AsnType &father, AsnType &comp);
 // The variable "extraElems" tells that there are surplus elements.
 bool extraElemsVarUsed();
 
-// Writes the loop over the surplus elements behind the loop that stores.
+// The list has a loop over its surplus elements, behind the one that stores.
+bool hasSurplusLoop(const AsnType &list);
+
+// Writes that loop.
 void ignoreTrailingListElems(AsnType &father, AsnType &comp);
 
 // --- Nesting of inline code. A type that contains itself in place is a

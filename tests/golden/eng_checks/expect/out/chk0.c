@@ -1,0 +1,221 @@
+/* beforeNormalFunc Row "" */
+
+void normRow (ASNG_F(ASNPERG *asnperg) Row *home)
+{
+  staArrInit (home);
+  {
+    uint32 n1 = 0;
+    /* struPrefix Row "" */
+    while (TRUE){
+      /* compPrefix element "" */
+      /* pushElem element "elem [n1]" */
+      if (staArrLen (home) >= 8){
+        report (AM_FAIL);
+      }
+      /* leaf element "elem [n1]" */
+      /* popPath element "elem [n1]" */
+      /* compPostfix element "elem [n1]" */
+      if ((2 < home->elem [n1] && home->elem [n1] < 4) || (4 < home->elem [n1]
+        && home->elem [n1] < 9)){
+        report (CONSTRAINT_FAIL);
+      }
+      incStaArrLen (home);
+      n1++;
+    }
+    /* struPostfix Row "" */
+  }
+}
+/* afterNormalFunc Row "" */
+/* beforeNormalFunc S "" */
+
+void normS (ASNG_F(ASNPERG *asnperg) S *home)
+{
+  /* struPrefix S "" */
+  /* compPrefix a#0 "" */
+  /* pushPath a#0 "a_fld" */
+  /* leaf a#0 "a_fld" */
+  /* popPath a#0 "a_fld" */
+  /* compPostfix a#0 "a_fld" */
+  if ((1 < home->a_fld && home->a_fld < 3) || (3 < home->a_fld && 
+    home->a_fld < 7)){
+    report (CONSTRAINT_FAIL);
+  }
+  /* compPrefix b#1 "" */
+  /* pushPath b#1 "b_fld" */
+  /* defStruct b#1 "b_fld" */
+  normRow (ASNG_F(asnperg) &home->b_fld);
+  /* popPath b#1 "b_fld" */
+  /* compPostfix b#1 "b_fld" */
+  {
+    BOOLE ok1;
+    ok1 = (staArrLen (&home->b_fld) >= 2);
+    if (!ok1){
+      report (CONSTRAINT_FAIL);
+    }
+  }
+  /* compPrefix c#2 "" */
+  /* pushPath c#2 "c_fld" */
+  /* defStruct c#2 "c_fld" */
+  normRow (ASNG_F(asnperg) &home->c_fld);
+  /* popPath c#2 "c_fld" */
+  /* compPostfix c#2 "c_fld" */
+  /* compPrefix d#3 "" */
+  /* pushPath d#3 "d_fld" */
+  /* builtinCompPrefix d#3 "d_fld" */
+  staArrInit (&home->d_fld);
+  {
+    uint32 n1 = 0;
+    /* struPrefix d#3 "d_fld" */
+    while (TRUE){
+      /* compPrefix element "" */
+      /* pushElem element "d_fld.elem [n1]" */
+      if (staArrLen (&home->d_fld) >= 2){
+        report (AM_FAIL);
+      }
+      /* leaf element "d_fld.elem [n1]" */
+      /* popPath element "d_fld.elem [n1]" */
+      /* compPostfix element "d_fld.elem [n1]" */
+      incStaArrLen (&home->d_fld);
+      n1++;
+    }
+    /* struPostfix d#3 "d_fld" */
+    {
+      BOOLE ok1;
+      ok1 = (staArrLen (&home->d_fld) >= 1);
+      if (!ok1){
+        report (CONSTRAINT_FAIL);
+      }
+    }
+  }
+  /* builtinCompPostfix d#3 "d_fld" */
+  /* popPath d#3 "d_fld" */
+  /* compPostfix d#3 "d_fld" */
+  /* compPrefix e#4 "" */
+  /* pushPath e#4 "e_fld" */
+  /* leaf e#4 "e_fld" */
+  /* popPath e#4 "e_fld" */
+  /* compPostfix e#4 "e_fld" */
+  /* struPostfix S "" */
+}
+/* afterNormalFunc S "" */
+/* beforeEntryFunc S "" */
+
+void entryS (ASNG_F(ASNPERG *asnperg) S *home)
+{
+  /* entryPushPath S "" */
+  /* entryPrefix S "" */
+  normS (ASNG_F(asnperg) home);
+  /* entryPostfix S "" */
+  /* entryPopPath S "" */
+}
+/* afterEntryFunc S "" */
+/* beforeEntryFunc Row "" */
+
+void entryRow (ASNG_F(ASNPERG *asnperg) Row *home)
+{
+  /* entryPushPath Row "" */
+  /* entryPrefix Row "" */
+  normRow (ASNG_F(asnperg) home);
+  /* entryPostfix Row "" */
+  /* entryPopPath Row "" */
+}
+/* afterEntryFunc Row "" */
+/* additionalNormalFunc Number "" */
+/* beforeEntryFunc Number "" */
+
+void entryNumber (ASNG_F(ASNPERG *asnperg) Number *home)
+{
+  /* entryPushPath Number "" */
+  /* entryPrefix Number "" */
+  /* leaf Number "" */
+  /* entryPostfix Number "" */
+  if ((1 < *home && *home < 3)){
+    report (CONSTRAINT_FAIL);
+  }
+  /* entryPopPath Number "" */
+}
+/* afterEntryFunc Number "" */
+/* additionalNormalFunc Plain "" */
+/* beforeEntryFunc Plain "" */
+
+void entryPlain (ASNG_F(ASNPERG *asnperg) Plain *home)
+{
+  /* entryPushPath Plain "" */
+  /* entryPrefix Plain "" */
+  /* leaf Plain "" */
+  /* entryPostfix Plain "" */
+  /* entryPopPath Plain "" */
+}
+/* afterEntryFunc Plain "" */
+/* additionalNormalFunc Text "" */
+/* beforeEntryFunc Text "" */
+
+void entryText (ASNG_F(ASNPERG *asnperg) Text *home)
+{
+  /* entryPushPath Text "" */
+  /* entryPrefix Text "" */
+  /* leaf Text "" */
+  /* entryPostfix Text "" */
+  {
+    BOOLE ok1;
+    ok1 = (staChrStrStrspn (home, "AB") == staStrLen (home));
+    if (!ok1){
+      report (CONSTRAINT_FAIL);
+    }
+  }
+  /* entryPopPath Text "" */
+}
+/* afterEntryFunc Text "" */
+/* beforeEntryFunc AliasOfRow "" */
+
+void entryAliasOfRow (ASNG_F(ASNPERG *asnperg) AliasOfRow *home)
+{
+  /* entryPushPath AliasOfRow "" */
+  /* entryPrefix AliasOfRow "" */
+  normRow (ASNG_F(asnperg) home);
+  /* entryPostfix AliasOfRow "" */
+  {
+    BOOLE ok1;
+    ok1 = (staArrLen (home) == 3);
+    if (!ok1){
+      report (CONSTRAINT_FAIL);
+    }
+  }
+  /* entryPopPath AliasOfRow "" */
+}
+/* afterEntryFunc AliasOfRow "" */
+/* beforeEntryFunc AliasOfS "" */
+
+void entryAliasOfS (ASNG_F(ASNPERG *asnperg) AliasOfS *home)
+{
+  /* entryPushPath AliasOfS "" */
+  /* entryPrefix AliasOfS "" */
+  normS (ASNG_F(asnperg) home);
+  /* entryPostfix AliasOfS "" */
+  /* entryPopPath AliasOfS "" */
+}
+/* afterEntryFunc AliasOfS "" */
+/* beforeEntryFunc Skipped "" */
+
+void entrySkipped (ASNG_F(ASNPERG *asnperg) Skipped *home)
+{
+  /* entryPushPath Skipped "" */
+  /* entryPrefix Skipped "" */
+  /* skipFunc Skipped "" */
+  /* entryPostfix Skipped "" */
+  /* entryPopPath Skipped "" */
+}
+/* afterEntryFunc Skipped "" */
+/* beforeEntryFunc Framed "" */
+
+void entryFramed (ASNG_F(ASNPERG *asnperg) Framed *home)
+{
+  /* entryPushPath Framed "" */
+  /* entryPrefix Framed "" */
+  /* frame Framed "" */
+  /* entryPostfix Framed "" */
+  /* entryPopPath Framed "" */
+}
+/* afterEntryFunc Framed "" */
+
+/* passed 9 */

@@ -1,0 +1,7 @@
+
+void normPlain (ASNG_F(ASNPERG *asnperg) Plain *home)
+{
+  /* leaf a#0 "a_fld" */
+}
+
+/* passed 1 */

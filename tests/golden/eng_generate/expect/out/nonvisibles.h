@@ -1,0 +1,2 @@
+
+extern void normPlain (ASNG_F(ASNPERG *asnperg) Plain *home);

@@ -1,0 +1,333 @@
+/* beforeNormalFunc Array "" */
+
+void normArray (ASNG_F(ASNPERG *asnperg) Array *home)
+{
+  staArrInit (home);
+  {
+    uint32 n1 = 0;
+    /* struPrefix Array "" */
+    while (TRUE){
+      /* compPrefix element "" */
+      /* pushElem element "elem [n1]" */
+      /* leaf element "elem [n1]" */
+      /* popPath element "elem [n1]" */
+      /* compPostfix element "elem [n1]" */
+      incStaArrLen (home);
+      n1++;
+    }
+    /* struPostfix Array "" */
+  }
+}
+/* afterNormalFunc Array "" */
+/* beforeNormalFunc Fixed "" */
+
+void normFixed (ASNG_F(ASNPERG *asnperg) Fixed *home)
+{
+  staArr0Init (home);
+  {
+    uint32 n1 = 0;
+    /* struPrefix Fixed "" */
+    while (TRUE){
+      /* compPrefix element "" */
+      /* pushElem element "elem [n1]" */
+      /* leaf element "elem [n1]" */
+      /* popPath element "elem [n1]" */
+      /* compPostfix element "elem [n1]" */
+      n1++;
+    }
+    /* struPostfix Fixed "" */
+  }
+}
+/* afterNormalFunc Fixed "" */
+/* beforeNormalFunc Dynamic "" */
+
+void normDynamic (ASNG_F(ASNPERG *asnperg) Dynamic *home)
+{
+  dynArrInit (home);
+  {
+    uint32 n1 = 0;
+    /* struPrefix Dynamic "" */
+    while (TRUE){
+      /* compPrefix element "" */
+      /* pushElem element "elem [n1]" */
+      /* leaf element "elem [n1]" */
+      /* popPath element "elem [n1]" */
+      /* compPostfix element "elem [n1]" */
+      incDynArrLen (home);
+      n1++;
+    }
+    /* struPostfix Dynamic "" */
+  }
+}
+/* afterNormalFunc Dynamic "" */
+/* beforeNormalFunc Linked "" */
+
+void normLinked (ASNG_F(ASNPERG *asnperg) Linked *home)
+{
+  listInit (home);
+  {
+    ASNHOME *a1 = NULL;
+    /* struPrefix Linked "" */
+    while (TRUE){
+      /* compPrefix element "" */
+      appendList (NULL, home, &a1, VF_I32, 0);
+      /* pushElem element "" */
+      /* leaf element "" */
+      /* popPath element "" */
+      /* compPostfix element "" */
+      incListLen (home);
+    }
+    /* struPostfix Linked "" */
+  }
+}
+/* afterNormalFunc Linked "" */
+/* beforeNormalFunc Matrix "" */
+
+void normMatrix (ASNG_F(ASNPERG *asnperg) Matrix *home)
+{
+  staArrInit (home);
+  {
+    uint32 n1 = 0;
+    /* struPrefix Matrix "" */
+    while (TRUE){
+      /* compPrefix element "" */
+      /* pushElem element "elem [n1]" */
+      /* builtinCompPrefix element "elem [n1]" */
+      staArrInit (&home->elem [n1]);
+      {
+        uint32 n2 = 0;
+        /* struPrefix element "elem [n1]" */
+        while (TRUE){
+          /* compPrefix element "" */
+          /* pushElem element "elem [n1].elem [n2]" */
+          /* leaf element "elem [n1].elem [n2]" */
+          /* popPath element "elem [n1].elem [n2]" */
+          /* compPostfix element "elem [n1].elem [n2]" */
+          incStaArrLen (&home->elem [n1]);
+          n2++;
+        }
+        /* struPostfix element "elem [n1]" */
+      }
+      /* builtinCompPostfix element "elem [n1]" */
+      /* popPath element "elem [n1]" */
+      /* compPostfix element "elem [n1]" */
+      incStaArrLen (home);
+      n1++;
+    }
+    /* struPostfix Matrix "" */
+  }
+}
+/* afterNormalFunc Matrix "" */
+/* beforeNormalFunc Web "" */
+
+void normWeb (ASNG_F(ASNPERG *asnperg) Web *home)
+{
+  listInit (home);
+  {
+    ASNHOME *a1 = NULL;
+    /* struPrefix Web "" */
+    while (TRUE){
+      /* compPrefix element "" */
+      appendList (NULL, home, &a1, VF_LIST, 0);
+      /* pushElem element "" */
+      {
+        LIST *h1 = &a1->val.list;
+        /* builtinCompPrefix element "" */
+        listInit (h1);
+        {
+          ASNHOME *a2 = NULL;
+          /* struPrefix element "" */
+          while (TRUE){
+            /* compPrefix element "" */
+            appendList (NULL, h1, &a2, VF_STRU, sizeof (struct t_2_Web));
+            /* pushElem element "" */
+            {
+              struct t_2_Web *h2 = (struct t_2_Web *)a2->val.stru;
+              /* builtinCompPrefix element "" */
+              /* struPrefix element "" */
+              /* compPrefix a#0 "" */
+              /* pushPath a#0 "a_fld" */
+              /* leaf a#0 "a_fld" */
+              /* popPath a#0 "a_fld" */
+              /* compPostfix a#0 "a_fld" */
+              /* compPrefix b#1 "" */
+              /* pushPath b#1 "b_fld" */
+              /* builtinCompPrefix b#1 "b_fld" */
+              listInit (&h2->b_fld);
+              {
+                ASNHOME *a3 = NULL;
+                /* struPrefix b#1 "b_fld" */
+                while (TRUE){
+                  /* compPrefix element "" */
+                  appendList (NULL, &h2->b_fld, &a3, VF_STRU, sizeof (Array));
+                  /* pushElem element "" */
+                  /* defStruct element "" */
+                  normArray (ASNG_F(asnperg) (Array *)a3->val.stru);
+                  /* popPath element "" */
+                  /* compPostfix element "" */
+                  incListLen (&h2->b_fld);
+                }
+                /* struPostfix b#1 "b_fld" */
+              }
+              /* builtinCompPostfix b#1 "b_fld" */
+              /* popPath b#1 "b_fld" */
+              /* compPostfix b#1 "b_fld" */
+              /* struPostfix element "" */
+              /* builtinCompPostfix element "" */
+            }
+            /* popPath element "" */
+            /* compPostfix element "" */
+            incListLen (h1);
+          }
+          /* struPostfix element "" */
+        }
+        /* builtinCompPostfix element "" */
+      }
+      /* popPath element "" */
+      /* compPostfix element "" */
+      incListLen (home);
+    }
+    /* struPostfix Web "" */
+  }
+}
+/* afterNormalFunc Web "" */
+/* beforeNormalFunc Rows "" */
+
+void normRows (ASNG_F(ASNPERG *asnperg) Rows *home)
+{
+  /* struPrefix Rows "" */
+  /* compPrefix a#0 "" */
+  /* pushPath a#0 "a_fld" */
+  /* builtinCompPrefix a#0 "a_fld" */
+  staArrInit (&home->a_fld);
+  {
+    uint32 n1 = 0;
+    /* struPrefix a#0 "a_fld" */
+    while (TRUE){
+      /* compPrefix element "" */
+      /* pushElem element "a_fld.elem [n1]" */
+      /* builtinCompPrefix element "a_fld.elem [n1]" */
+      home->a_fld.elem [n1].compmask = 0;
+      /* struPrefix element "a_fld.elem [n1]" */
+      /* compPrefix x#0 "" */
+      /* pushPath x#0 "a_fld.elem [n1].x_fld" */
+      /* leaf x#0 "a_fld.elem [n1].x_fld" */
+      /* popPath x#0 "a_fld.elem [n1].x_fld" */
+      /* compPostfix x#0 "a_fld.elem [n1].x_fld" */
+      {
+        /* compPrefix y#1 "" */
+        home->a_fld.elem [n1].compmask |= BIT(1);
+        /* pushPath y#1 "a_fld.elem [n1].y_fld" */
+        /* leaf y#1 "a_fld.elem [n1].y_fld" */
+        /* popPath y#1 "a_fld.elem [n1].y_fld" */
+        /* compPostfix y#1 "a_fld.elem [n1].y_fld" */
+      }
+      /* struPostfix element "a_fld.elem [n1]" */
+      /* builtinCompPostfix element "a_fld.elem [n1]" */
+      /* popPath element "a_fld.elem [n1]" */
+      /* compPostfix element "a_fld.elem [n1]" */
+      incStaArrLen (&home->a_fld);
+      n1++;
+    }
+    /* struPostfix a#0 "a_fld" */
+  }
+  /* builtinCompPostfix a#0 "a_fld" */
+  /* popPath a#0 "a_fld" */
+  /* compPostfix a#0 "a_fld" */
+  /* compPrefix b#1 "" */
+  /* pushPath b#1 "b_fld" */
+  /* builtinCompPrefix b#1 "b_fld" */
+  staArrInit (&home->b_fld);
+  {
+    uint32 n1 = 0;
+    /* struPrefix b#1 "b_fld" */
+    while (TRUE){
+      /* compPrefix element "" */
+      /* pushElem element "b_fld.elem [n1]" */
+      /* leaf element "b_fld.elem [n1]" */
+      /* popPath element "b_fld.elem [n1]" */
+      /* compPostfix element "b_fld.elem [n1]" */
+      incStaArrLen (&home->b_fld);
+      n1++;
+    }
+    /* struPostfix b#1 "b_fld" */
+  }
+  /* builtinCompPostfix b#1 "b_fld" */
+  /* popPath b#1 "b_fld" */
+  /* compPostfix b#1 "b_fld" */
+  /* compPrefix c#2 "" */
+  /* pushPath c#2 "c_fld" */
+  /* builtinCompPrefix c#2 "c_fld" */
+  listInit (&home->c_fld);
+  {
+    ASNHOME *a1 = NULL;
+    /* struPrefix c#2 "c_fld" */
+    while (TRUE){
+      /* compPrefix element "" */
+      appendList (NULL, &home->c_fld, &a1, VF_NULL, 0);
+      /* pushElem element "" */
+      /* leaf element "" */
+      /* popPath element "" */
+      /* compPostfix element "" */
+      incListLen (&home->c_fld);
+    }
+    /* struPostfix c#2 "c_fld" */
+  }
+  /* builtinCompPostfix c#2 "c_fld" */
+  /* popPath c#2 "c_fld" */
+  /* compPostfix c#2 "c_fld" */
+  /* struPostfix Rows "" */
+}
+/* afterNormalFunc Rows "" */
+/* beforeNormalFunc Links "" */
+
+void normLinks (ASNG_F(ASNPERG *asnperg) Links *home)
+{
+  /* struPrefix Links "" */
+  /* compPrefix c#0 "" */
+  /* pushPath c#0 "c_fld" */
+  /* builtinCompPrefix c#0 "c_fld" */
+  listInit (&home->c_fld);
+  {
+    ASNHOME *a1 = NULL;
+    /* struPrefix c#0 "c_fld" */
+    while (TRUE){
+      /* compPrefix element "" */
+      appendList (NULL, &home->c_fld, &a1, VF_NULL, 0);
+      /* pushElem element "" */
+      /* leaf element "" */
+      /* popPath element "" */
+      /* compPostfix element "" */
+      incListLen (&home->c_fld);
+    }
+    /* struPostfix c#0 "c_fld" */
+  }
+  /* builtinCompPostfix c#0 "c_fld" */
+  /* popPath c#0 "c_fld" */
+  /* compPostfix c#0 "c_fld" */
+  /* compPrefix d#1 "" */
+  /* pushPath d#1 "d_fld" */
+  /* builtinCompPrefix d#1 "d_fld" */
+  listInit (&home->d_fld);
+  {
+    ASNHOME *a1 = NULL;
+    /* struPrefix d#1 "d_fld" */
+    while (TRUE){
+      /* compPrefix element "" */
+      appendList (NULL, &home->d_fld, &a1, VF_NULL, 0);
+      /* pushElem element "" */
+      /* leaf element "" */
+      /* popPath element "" */
+      /* compPostfix element "" */
+      incListLen (&home->d_fld);
+    }
+    /* struPostfix d#1 "d_fld" */
+  }
+  /* builtinCompPostfix d#1 "d_fld" */
+  /* popPath d#1 "d_fld" */
+  /* compPostfix d#1 "d_fld" */
+  /* struPostfix Links "" */
+}
+/* afterNormalFunc Links "" */
+
+/* passed 8 */

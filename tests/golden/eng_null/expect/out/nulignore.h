@@ -1,0 +1,8 @@
+
+extern void normPart (ASNG_F(ASNPERG *asnperg) Part *home);
+
+extern void normS (ASNG_F(ASNPERG *asnperg) S *home);
+
+extern void entryS (ASNG_F(ASNPERG *asnperg) S *home);
+
+extern void entryNumber (ASNG_F(ASNPERG *asnperg) Number *home);

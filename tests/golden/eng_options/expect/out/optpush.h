@@ -1,0 +1,12 @@
+
+extern void normPart (ASNG_F(ASNPERG *asnperg) Part *home);
+
+extern void normS (ASNG_F(ASNPERG *asnperg) S *home);
+
+extern void entryS (ASNG_F(ASNPERG *asnperg) S *home);
+
+extern void normHomes (ASNG_F(ASNPERG *asnperg) Homes *home);
+
+extern void normSet (ASNG_F(ASNPERG *asnperg) Set *home);
+
+extern void entryNumber (ASNG_F(ASNPERG *asnperg) Number *home);

@@ -1,0 +1,4 @@
+
+extern void normT (ASNG_F(ASNPERG *asnperg) T *home);
+
+extern void normS (ASNG_F(ASNPERG *asnperg) S *home);
