@@ -34,9 +34,11 @@ static void storeTag(AsnType &type, int32_t tagClass, int32_t tagNumber)
   node->tagNumber = tagNumber;
 }
 
-static void setEmbeddingOptionsFromTNode(AsnType &type)
+void setEmbeddingOptionsFromTNode(DynaNode *&first, DynaNode *&last)
 {
-  DynaNode *node = insDynaNode(type.tagsFirst, type.tagsLast);
+  if (!(tNode.nodeOptions >> optEmbedding & 1))
+    return;
+  DynaNode *node = insDynaNode(first, last);
   node->embeddingKind = embeddingKindOptions;
   node->embedding = {tNode.firstTed, tNode.lastTed};
 }
@@ -44,8 +46,7 @@ static void setEmbeddingOptionsFromTNode(AsnType &type)
 void getTagsAndEmbeddingOpts(AsnType &type, int &tagState)
 {
   ModRec *module = currTPtr[REC_TNODE];
-  if (tNode.nodeOptions >> optEmbedding & 1)
-    setEmbeddingOptionsFromTNode(type);
+  setEmbeddingOptionsFromTNode(type.tagsFirst, type.tagsLast);
   ChainGuard guard(module, REC_TAG);
   for (int32_t index = tNode.firstTag; index != 0; index = tagRec.nextTag) {
     guard.step();

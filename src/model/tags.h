@@ -29,6 +29,10 @@ enum TagPosition : int {
   TAG_ALL = 7
 };
 
+// Appends a node for the embedding options of the current type node, if it
+// has any.
+void setEmbeddingOptionsFromTNode(DynaNode *&first, DynaNode *&last);
+
 // Building, on the current type node: its embedding options and, while the
 // state is explicit (1), its tags; then the universal and automatic tags of a
 // finished son.

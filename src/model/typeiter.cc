@@ -482,9 +482,7 @@ static void visitComponentsOf(SonWalk &walk, AsnType &holder, AsnType &son)
 {
   if (son.base.nrComps == 0)
     return;
-  if (componentsOfNesting >= maxWalkNesting)
-    treeInconsistent(son.baseModRec);
-  NestingGuard nesting(componentsOfNesting, son.baseModRec);
+  WalkNesting nesting(componentsOfNesting, son.baseModRec);
   AsnModule *mod = son.mod;
   AsnModule *homeMod = son.homeMod;
   OwnedModule owned(*son.baseModRec);
@@ -504,8 +502,10 @@ static void visitSon(SonWalk &walk, AsnType &holder, AsnType &son)
     treeInconsistent(walk.father.baseModRec);
   AsnModule &module = *holder.mod;
   AsnType *builtFather = son.father;
+  AsnType *builtGroup = son.addGroup;
   if (isComponentsOf(holder)) {
     son.father = &walk.father;
+    son.addGroup = holder.addGroup;
     son.inComponentsOf = true;
   }
   ModuleCursors cursors = module.cursors;
@@ -520,6 +520,7 @@ static void visitSon(SonWalk &walk, AsnType &holder, AsnType &son)
   }
   module.cursors = cursors;
   son.father = builtFather;
+  son.addGroup = builtGroup;
 }
 
 static void walkForward(SonWalk &walk, AsnType &holder, bool compsOnly)

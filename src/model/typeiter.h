@@ -15,8 +15,20 @@ typedef void SelectionVisit(AsnType &type, AsnType &alternative,
                             AsnType &choice);
 typedef void TypeCommentCallBack(AsnType &type, const char *text, int index);
 
-// Levels of a recursion through walks: one takes far more stack than a step of
-// the store does. Beyond, the tree is damaged, fatal error 15.
+// Counts a level of a recursion through walks, of which each is entered by
+// another type node: beyond their number, and beyond `maxNesting`, the tree is
+// damaged, fatal error 15.
+struct WalkNesting {
+  NestingGuard guard;
+  WalkNesting(int &depth, const ModRec *module) : guard(depth, module)
+  {
+    if (depth > recordsOfRun(REC_TNODE))
+      treeInconsistent(module);
+  }
+};
+
+// The same for walks over objects and object sets, whose levels take more of
+// the stack.
 constexpr int maxWalkNesting = 1000;
 
 // --- Node selection. Moves the type cursor of `kind` in the module along its

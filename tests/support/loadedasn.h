@@ -26,6 +26,17 @@ struct LoadedAsn : testing::Test {
   {
     start(compileAsn(text, options));
   }
+  // What is compiled, a test having changed its trees.
+  void loadCompiled()
+  {
+    resetStore();
+    resetParams();
+    for (const CompiledTree &tree : compiled.trees)
+      run.add(tree.tree, tree.prefix.c_str());
+    const char *prefix = compiled.trees[0].prefix.c_str();
+    run.load({prefix});
+    module = LoadedRun::module(prefix);
+  }
   int32_t type(const std::string &name)
   {
     return typeNamed(treeOf(compiled), name);
@@ -36,14 +47,7 @@ private:
   {
     compiled = std::move(result);
     treeOf(compiled);
-    if (compiled.trees.empty())
-      return;
-    resetStore();
-    resetParams();
-    for (const CompiledTree &tree : compiled.trees)
-      run.add(tree.tree, tree.prefix.c_str());
-    const char *prefix = compiled.trees[0].prefix.c_str();
-    run.load({prefix});
-    module = LoadedRun::module(prefix);
+    if (!compiled.trees.empty())
+      loadCompiled();
   }
 };

@@ -323,8 +323,9 @@ TEST_F(CFormat, EntryFunctionOfAView)
 TEST(CObjClassField, Kinds)
 {
   const bool supported[] = {true, true, true, false, false, true, true};
-  for (int kind = 0; kind < 7; ++kind)
-    EXPECT_EQ(cIsSupportedObjClassField(kind), supported[kind]) << kind;
-  EXPECT_FALSE(cIsSupportedObjClassField(-1));
-  EXPECT_FALSE(cIsSupportedObjClassField(7));
+  AsnObjClassField field;
+  for (int kind = 0; kind < 7; ++kind) {
+    field.fieldKind = kind;
+    EXPECT_EQ(cIsSupportedObjClassField(field), supported[kind]) << kind;
+  }
 }

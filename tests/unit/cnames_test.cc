@@ -398,13 +398,15 @@ TEST_F(CNamesFormat, ComponentsWhereTheyAreReferredTo)
 
 TEST_F(CNamesFormat, FieldOfABuiltInClass)
 {
-  FixRec field, objClass;
-  field.id = "Type";
-  field.idLen = 4;
-  objClass.id = "TYPE_IDENTIFIER";
-  objClass.idLen = 15;
+  AsnObjClass objClass;
+  objClass.baseFix.id = "TYPE_IDENTIFIER";
+  objClass.baseFix.idLen = 15;
+  AsnObjClassField field;
+  field.objClass = &objClass;
+  field.fix.id = "Type";
+  field.fix.idLen = 4;
   type.compStatus = type.base.compStatus = TCS_MANDATORY;
-  cUpdateBuiltinTypeFieldType(type, field, objClass);
+  cUpdateBuiltinTypeFieldType(type, field);
   EXPECT_EQ(at(cTypeId, TYP_OPEN, 31), "Type_TYPE_IDENTIFIER");
 }
 
