@@ -19,8 +19,11 @@
 #include "base/diag.h"
 #include "base/strings.h"
 #include "cbet/symboltable.h"
+#include "model/asnvalue.h"
+#include "model/objectset.h"
 #include "model/typeiter.h"
 #include "model/typequery.h"
+#include "model/valuetext.h"
 #include "store/module.h"
 #include <map>
 #include <string>
@@ -121,50 +124,141 @@ AdeBrowserNode *adeBrowserFindOrCreateModuleNode(const AsnModule &module,
   return node;
 }
 
-// Place of a definition: its module and line.
-static AdeBrowserNode *nodeOfType(const AsnType &type, const char *name,
-                                  const char *kind, const char *extra1,
-                                  const char *extra2)
+// The name as the tree shows it, once `text` is read from a view.
+static const char *shown(std::string &text)
 {
-  std::string directory, file;
-  const AsnModule &module = *getModuleOfType(type);
-  getModuleDirectory(directory, nullptr, module, nullptr);
-  getModuleFileName(file, nullptr, module, nullptr);
-  return adeBrowserNewNode(name, directory.c_str(), file.c_str(),
-                           getTypeDefinitionLine(type), kind, extra1, extra2);
+  return convertUnderscores(text).c_str();
 }
 
-static std::string &typeNodeName(std::string &name, const AsnType &type)
-{
-  return convertUnderscores(getTypeRef(name, nullptr, type, nullptr));
-}
-
-// Arguments and result of the visit of a base in another module.
-static struct ForeignBase {
+// What a caller tells of a definition, and the node that is made for it.
+struct DefinitionNode {
   const char *name = nullptr;
   const char *kind = nullptr;
   const char *extra1 = nullptr;
   const char *extra2 = nullptr;
   AdeBrowserNode *node = nullptr;
-} foreignBase;
+};
 
-static void nodeOfForeignBase(AsnType &base)
+// The one whose base is being visited in another module.
+static DefinitionNode foreignBase;
+
+// Makes the node for a line of the module's source.
+static void placeIn(DefinitionNode &d, const AsnModule &module, int32_t line)
 {
-  ForeignBase &f = foreignBase;
-  f.node = nodeOfType(base, f.name, f.kind, f.extra1, f.extra2);
+  std::string directory, file;
+  getModuleDirectory(directory, nullptr, module, nullptr);
+  getModuleFileName(file, nullptr, module, nullptr);
+  d.node = adeBrowserNewNode(d.name, directory.c_str(), file.c_str(), line,
+                             d.kind, d.extra1, d.extra2);
+}
+
+static void placeAtBaseType(AsnType &base)
+{
+  placeIn(foreignBase, *getModuleOfType(base), getTypeDefinitionLine(base));
 }
 
 AdeBrowserNode *adeBrowserNewTypeNode(AsnType &type, const char *kind,
                                       const char *extra1, const char *extra2)
 {
   std::string name;
-  typeNodeName(name, type);
-  foreignBase = {name.c_str(), kind, extra1, extra2, nullptr};
+  getTypeRef(name, nullptr, type, nullptr);
+  foreignBase = {shown(name), kind, extra1, extra2};
   if (!isBaseTypeInCurrentModule(type))
-    forTypeDefinedInAnotherModule(type, nodeOfForeignBase);
-  if (foreignBase.node)
-    return foreignBase.node;
-  return nodeOfType(type, name.c_str(), kind, extra1, extra2);
+    forTypeDefinedInAnotherModule(type, placeAtBaseType);
+  if (!foreignBase.node)
+    placeIn(foreignBase, *getModuleOfType(type), getTypeDefinitionLine(type));
+  return foreignBase.node;
+}
+
+static void placeAtBaseClass(AsnObjClass &base)
+{
+  placeIn(foreignBase, *getModuleOfObjClass(base),
+          getClassDefinitionLine(base));
+}
+
+AdeBrowserNode *adeBrowserNewClassNode(AsnObjClass &objClass, const char *kind,
+                                       const char *extra1, const char *extra2)
+{
+  std::string name;
+  getObjClassRef(name, nullptr, objClass, nullptr);
+  foreignBase = {shown(name), kind, extra1, extra2};
+  // A predefined class can't be visited.
+  if (!isBaseObjClassInCurrentModule(objClass) &&
+      !isPredefinedObjClass(objClass))
+    forObjClassDefinedInAnotherModule(objClass, placeAtBaseClass);
+  if (!foreignBase.node)
+    placeIn(foreignBase, *getModuleOfObjClass(objClass),
+            getClassDefinitionLine(objClass));
+  return foreignBase.node;
+}
+
+AdeBrowserNode *adeBrowserNewObjectSetNode(const AsnObjectSet &set,
+                                           const char *kind, const char *extra1,
+                                           const char *extra2)
+{
+  std::string name;
+  getObjectSetRef(name, nullptr, set, nullptr);
+  DefinitionNode d = {shown(name), kind, extra1, extra2};
+  placeIn(d, *getModuleOfObjectSet(set), getObjectSetDefinitionLine(set));
+  return d.node;
+}
+
+AdeBrowserNode *adeBrowserNewObjectNode(const AsnObject &object,
+                                        const char *kind, const char *extra1,
+                                        const char *extra2)
+{
+  std::string name;
+  getObjectRef(name, nullptr, object, nullptr);
+  DefinitionNode d = {shown(name), kind, extra1, extra2};
+  placeIn(d, *getModuleOfObject(object), getObjectDefinitionLine(object));
+  return d.node;
+}
+
+AdeBrowserNode *adeBrowserNewValueNode(const AsnValue &value, const char *kind,
+                                       const char *extra1, const char *extra2)
+{
+  std::string name;
+  getValueRef(name, nullptr, value, nullptr);
+  DefinitionNode d = {shown(name), kind, extra1, extra2};
+  placeIn(d, *getModuleOfValue(value), value.base.line);
+  return d.node;
+}
+
+// Line of the type's own node, not of the end of its chain.
+static int32_t lineOfOwnNode(const AsnType &type)
+{
+  SavedNode saved(REC_TNODE);
+  readRec(type.compModRec, REC_TNODE, type.compRecNr);
+  return tNode.line;
+}
+
+AdeBrowserNode *adeBrowserFindOrCreateXRefDefinitionNode(const AsnType &type,
+                                                         const char *extra1,
+                                                         const char *extra2)
+{
+  AsnModule &module = *getModuleOfType(type);
+  AdeBrowserNode *parent = adeBrowserFindOrCreateModuleNode(
+      module, "ASN.1 module", nullptr, nullptr);
+  std::string name;
+  getTypeRef(name, nullptr, type, nullptr);
+  DefinitionNode d = {shown(name), "Definition", extra1, extra2};
+  d.node = adeBrowserFindSubNode(*parent, d.name);
+  if (d.node)
+    return d.node;
+  placeIn(d, module, lineOfOwnNode(type));
+  adeBrowserInsertSubNode(*parent, d.node, 1);
+  return d.node;
+}
+
+AdeBrowserNode *adeBrowserNewXRefUsageNode(const AsnType &type, int32_t line,
+                                           const char *extra1,
+                                           const char *extra2)
+{
+  std::string name;
+  getTypeRef(name, nullptr, type, nullptr);
+  DefinitionNode d = {shown(name), "Usage", extra1, extra2};
+  placeIn(d, *getModuleOfType(type), line);
+  return d.node;
 }
 
 void adeBrowserSelectTypeNode(AsnType &type)
@@ -172,8 +266,8 @@ void adeBrowserSelectTypeNode(AsnType &type)
   if (!adeIsActive() || !g_adeModuleNode)
     return;
   std::string name;
-  g_adeTypeNode =
-      adeBrowserFindSubNode(*g_adeModuleNode, typeNodeName(name, type).c_str());
+  getTypeRef(name, nullptr, type, nullptr);
+  g_adeTypeNode = adeBrowserFindSubNode(*g_adeModuleNode, shown(name));
   if (g_adeTypeNode)
     return;
   g_adeTypeNode = adeBrowserNewTypeNode(type, "ASN.1 type", nullptr, nullptr);

@@ -8,7 +8,11 @@
 
 struct AdeBrowserIndex;
 struct AsnModule;
+struct AsnObjClass;
+struct AsnObject;
+struct AsnObjectSet;
 struct AsnType;
+struct AsnValue;
 struct SymbolTable;
 
 // From a free-list cache. Texts are indexes in `adeBrowserSymbolTable`, 0 for
@@ -64,12 +68,39 @@ AdeBrowserNode *adeBrowserNewModuleNode(const AsnModule &module,
 AdeBrowserNode *adeBrowserNewTypeNode(AsnType &type, const char *kind,
                                       const char *extra1, const char *extra2);
 
+// The same for the definition of a class.
+AdeBrowserNode *adeBrowserNewClassNode(AsnObjClass &objClass, const char *kind,
+                                       const char *extra1, const char *extra2);
+
+// The same for the definition of an object set, an object or a value, always
+// in the module that it is seen from.
+AdeBrowserNode *adeBrowserNewObjectSetNode(const AsnObjectSet &set,
+                                           const char *kind, const char *extra1,
+                                           const char *extra2);
+AdeBrowserNode *adeBrowserNewObjectNode(const AsnObject &object,
+                                        const char *kind, const char *extra1,
+                                        const char *extra2);
+AdeBrowserNode *adeBrowserNewValueNode(const AsnValue &value, const char *kind,
+                                       const char *extra1, const char *extra2);
+
 // The child of `g_adeBrowserTree` with that module's name; if there is none a
 // new one, inserted sorted.
 AdeBrowserNode *adeBrowserFindOrCreateModuleNode(const AsnModule &module,
                                                  const char *kind,
                                                  const char *extra1,
                                                  const char *extra2);
+
+// Below the node of the type's module, which is made as an "ASN.1 module" if
+// there is none, the child named as the type; if there is none a new one of
+// the kind "Definition", on the line of the type's own node, inserted sorted.
+AdeBrowserNode *adeBrowserFindOrCreateXRefDefinitionNode(const AsnType &type,
+                                                         const char *extra1,
+                                                         const char *extra2);
+
+// A node of the kind "Usage", on that line of the type's module.
+AdeBrowserNode *adeBrowserNewXRefUsageNode(const AsnType &type, int32_t line,
+                                           const char *extra1,
+                                           const char *extra2);
 
 // Makes `node`, which must stand nowhere yet, a child of `parent`. With
 // `sorted` 1 it goes ahead of the first child whose name compares greater, by

@@ -104,4 +104,6 @@ extern const IgnoreFuncs decIgnoreFuncs;
 std::string &decSkipIgnoreFuncName(std::string &text, const char *prefix,
                                    const AsnType &type, const char *suffix);
 void decSkipElemCallBack(AsnType &list, AsnType &elem);
+// Steps over an element, in the function for elements.
+void decSkipElem(AsnType &elem);
 void decSkipLeaf(AsnType &type, TypeFuncInfo &info);

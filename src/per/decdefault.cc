@@ -61,13 +61,13 @@ static void absenceTest(AsnType &father, AsnType &comp, int compNbr)
 // A home of the component's own, named from its structure.
 static void createOwnHome(AsnType &father, AsnType &comp)
 {
-  std::string text, member;
-  getTypeCompId(member, nullptr, comp, "_fld,");
+  std::string text;
   wToF(fiDec, "createHome (");
   wToF(fiDec,
        cGetHome(text, nullptr, comp, glbDecTypeFuncInfo->gIndex, ",").c_str());
-  wToF(fiDec, cHome(text, " ", true, father, true, member.c_str()).c_str());
-  printfToF(fiDec, " %s,", cGetVFStri(comp));
+  wToF(fiDec, cHome(text, " ", true, father, true, nullptr).c_str());
+  wToF(fiDec, getTypeCompId(text, nullptr, comp, "_fld").c_str());
+  printfToF(fiDec, ", %s,", cGetVFStri(comp));
   if (cIsPtrAsnHomeMember(comp))
     wToF(fiDec, cBaseTypeId(text, " sizeof (", comp, "));\n").c_str());
   else

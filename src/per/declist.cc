@@ -234,22 +234,11 @@ static void defineIterator(AsnType &list, AsnType &elem)
   wToF(fiDec, "ASNHOME *a1;\n");
 }
 
-static void ignoreElem(AsnType &elem)
-{
-  std::string text;
-  if (isLeafType(elem)) {
-    decSkipLeaf(elem, *glbDecTypeFuncInfo);
-    return;
-  }
-  decSkipIgnoreFuncName(text, nullptr, elem, " (ASNG_L(asnperg));");
-  wToF(fiDec, (text + "\n").c_str());
-}
-
 static void elemCode(AsnType &elem)
 {
   TypeFuncInfo &info = *glbDecTypeFuncInfo;
   if (getTypeOptions(elem).skipKind == 0)
-    ignoreElem(elem);
+    decSkipElem(elem);
   else if (isLeafType(elem))
     decLeaf(elem, info);
   else
@@ -267,8 +256,8 @@ static void elemLoop(AsnType &list, AsnType &elem)
   cOpenBrace(fiDec);
   if (!isArray)
     cAppendList(fiDec, list, elem, info.gIndex);
-  perPushElemInCallBack(elem, info);
   glbIterHome = isArray;
+  perPushElemInCallBack(elem, info);
   elemCode(elem);
   glbIterHome = false;
   wToF(fiDec, isArray ? "iter++;\n" : "incListLen (home);\n");

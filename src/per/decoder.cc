@@ -5,6 +5,7 @@
 #include "base/upcalls.h"
 #include "cbet/cgenerate.h"
 #include "cbet/outfile.h"
+#include "cbet/traverse.h"
 #include "model/typequery.h"
 #include "per/dec.h"
 #include "per/funcprefs.h"
@@ -23,13 +24,34 @@ static const FuncPrefixes decPrefixes = {
     .entryBer = {"dec", "dec", "dec_<unsupported>"},
 };
 
-// A skipped list needs the function that ignores its elements.
+// The list stands inline in a structure that is stepped over.
+static bool isInSkipped(const AsnType &list)
+{
+  const AsnType *outer = getFatherOfTypeComp(list);
+  while (outer && !(testTypeOption(*outer, optSkip) &&
+                    getTypeOptions(*outer).skipKind == 0))
+    outer = getFatherOfTypeComp(*outer);
+  return outer;
+}
+
+// The list stands inline in elements whose surplus is stepped over.
+static bool isInSurplus(const AsnType &list)
+{
+  const AsnType *outer = getFatherOfTypeComp(list);
+  while (outer && !(isListType(*outer) && hasSurplusLoop(*outer)))
+    outer = getFatherOfTypeComp(*outer);
+  return outer;
+}
+
+// A skipped list needs the function that ignores its elements, one in the
+// elements of a list with a surplus needs both.
 static void elemFunction(AsnType &list, AsnType &elem)
 {
-  if (testTypeOption(list, optSkip))
-    decSkipElemCallBack(list, elem);
-  else
+  bool isSkipped = testTypeOption(list, optSkip) || isInSkipped(list);
+  if (!isSkipped)
     decElemCallBack(list, elem);
+  if (isSkipped || isInSurplus(list))
+    decSkipElemCallBack(list, elem);
 }
 
 // Element functions stand ahead of the function that names them.

@@ -8,6 +8,7 @@
 #include "cbet/cgenerate.h"
 #include "cbet/cnames.h"
 #include "cbet/cvars.h"
+#include "cbet/ignore.h"
 #include "cbet/outfile.h"
 #include "model/typeiter.h"
 #include "model/typequery.h"
@@ -71,6 +72,19 @@ static void decSkipIgnorePostfix(AsnType &, TypeFuncInfo &info)
   cCloseBrace(info.implFile);
 }
 
+// The SKIP option makes a leaf of a structure, which has its function all the
+// same.
+void decSkipElem(AsnType &elem)
+{
+  if (isNonSkippedLeafType(elem) || !cIsDefinedBaseType(elem)) {
+    decSkipLeaf(elem, *glbDecTypeFuncInfo);
+    return;
+  }
+  std::string text;
+  decSkipIgnoreFuncName(text, nullptr, elem, " (ASNG_L(asnperg));");
+  wToF(fiDec, (text + "\n").c_str());
+}
+
 // No test of a size limit here: what lies beyond it is ignored as well.
 void decSkipElemCallBack(AsnType &list, AsnType &elem)
 {
@@ -78,13 +92,7 @@ void decSkipElemCallBack(AsnType &list, AsnType &elem)
     return;
   wToF(fiDec, "while (n)");
   cOpenBrace(fiDec);
-  if (isLeafType(elem)) {
-    decSkipLeaf(elem, *glbDecTypeFuncInfo);
-  } else {
-    std::string text;
-    decSkipIgnoreFuncName(text, nullptr, elem, " (ASNG_L(asnperg));");
-    wToF(fiDec, (text + "\n").c_str());
-  }
+  decSkipElem(elem);
   wToF(fiDec, "n--;\n");
   cCloseBrace(fiDec);
   cCloseBrace(fiDec);
@@ -170,11 +178,16 @@ static void defineLength(std::string &argument, int field, int32_t upper)
 
 static void beginCountdown(const std::string &call)
 {
-  std::string text;
+  std::string length;
+  perRefLengthDeterminant(length, nullptr, nullptr);
   wToF(fiDec, call.c_str());
-  wToF(fiDec, perRefLengthDeterminant(text, "while (", " > 0)").c_str());
+  wToF(fiDec, "while (");
+  wToF(fiDec, length.c_str());
+  wToF(fiDec, " > 0)");
   cOpenBrace(fiDec);
-  wToF(fiDec, perRefLengthDeterminant(text, "--", ";\n").c_str());
+  wToF(fiDec, "--");
+  wToF(fiDec, length.c_str());
+  wToF(fiDec, ";\n");
 }
 
 static void skipFragments(AsnType &list, AsnType &elem)

@@ -140,7 +140,7 @@ static void deleteImports(ModRec &module)
   }
 }
 
-static void deleteFixRecs(GlobalOptions &options)
+void deleteFixRecs(GlobalOptions &options)
 {
   for (FixRec *head :
        {&options.entryFixRec, &options.fixRecs[0], &options.fixRecs[1],

@@ -68,6 +68,9 @@ void initModRec(ModRec &module);
 // is kept for the rest of the run.
 void initMetaRec(GlobalOptions &options);
 
+// Frees the fix records behind the heads, which must be reset then.
+void deleteFixRecs(GlobalOptions &options);
+
 // Fills a generation array for a DEFINITION-CATEGORY.
 void initGenArr(uint8_t (&array)[17], int category);
 

@@ -159,6 +159,11 @@ bool isVariabTypeFieldTNode()
   return tNode.classFlags & CF_VARIABLE_TYPE;
 }
 
+bool isVariabTypeTNode()
+{
+  return tNode.classFlags & CF_VARIABLE_TYPE;
+}
+
 bool isOpenObjClassFieldTypeTNode()
 {
   return endOfChain().mainType == TYP_OPEN;

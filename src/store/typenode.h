@@ -33,6 +33,7 @@ bool isObjSetTNode();
 bool isValFieldTNode();         // of a class: a value field
 bool isValSetFieldTNode();      // a value set or object set field
 bool isVariabTypeFieldTNode();  // a field of variable type
+bool isVariabTypeTNode();       // a type that one of these stands for
 bool isOpenObjClassFieldTypeTNode();
 
 // Searches: the node found is left in the buffer; false leaves it anywhere.

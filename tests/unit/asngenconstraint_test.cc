@@ -95,6 +95,13 @@ TEST(AsnGenConstraintFlag, Extensible)
       // The last of serial constraints decides.
       {"INTEGER (1..4, ...) (2..3)", false},
       {"INTEGER (1..4) (2..3, ...)", true},
+      // Of those that PER sees.
+      {"INTEGER (1..4, ...) (CONSTRAINED BY {})", true},
+      {"INTEGER (1..4) (CONSTRAINED BY {})", false},
+      {"OCTET STRING (SIZE (1..4, ...)) (CONTAINING NULL)", true},
+      {"OCTET STRING (SIZE (1..4, ...)) (SIZE (2)) (CONTAINING NULL)", false},
+      {"IA5String (SIZE (1..4, ...)) (PATTERN \"a\")", true},
+      {"IA5String (SIZE (1..4, ...)) (FROM (\"a\"))", false},
       {"OCTET STRING (SIZE (1..4, ...))", true},
       {"OCTET STRING (SIZE (1..4), ...)", true},
       {"OCTET STRING (SIZE (1..4))", false},

@@ -383,6 +383,55 @@ TEST(AsnGenType, SelectionFromAnotherModule)
   EXPECT_EQ(link.target, compNamed(other, typeNamed(other, "C"), "y"));
 }
 
+// The number of a node's first tag, or -1.
+static int32_t tagOf(const StxTree &tree, const TNode &node)
+{
+  if (node.firstTag == 0)
+    return -1;
+  return tree.tagRecs.at(static_cast<size_t>(node.firstTag) - 1).tagNumber;
+}
+
+TEST(AsnGenType, NameOfASelectionIsThatSelection)
+{
+  AsnCompiled compiled =
+      compileBody("D ::= B\nB ::= A\nA ::= [7] y < C\n"
+                  "C ::= CHOICE { x NULL, y BOOLEAN }\n"
+                  "S ::= SEQUENCE { b B }\nF ::= G\nG ::= BOOLEAN");
+  const StxTree &tree = treeOf(compiled);
+  int32_t c = typeNamed(tree, "C");
+  for (const char *name : {"A", "B", "D"}) {
+    SCOPED_TRACE(name);
+    const TNode &node = defOf(tree, name);
+    EXPECT_EQ(node.mainType, TYP_SELECTION);
+    EXPECT_EQ(node.ref, c);
+    ASSERT_NE(node.fieldRef, 0);
+    EXPECT_EQ(tree.sNodes.at(static_cast<size_t>(node.fieldRef) - 1).target,
+              compNamed(tree, c, "y"));
+    EXPECT_EQ(tagOf(tree, node), 7);
+  }
+  // Components refer to it, and other names are references.
+  const TNode &b = nodeOf(tree, compNamed(tree, typeNamed(tree, "S"), "b"));
+  EXPECT_EQ(b.mainType, TYP_SYNONYM);
+  EXPECT_EQ(b.ref, typeNamed(tree, "B"));
+  EXPECT_EQ(tagOf(tree, b), -1);
+  EXPECT_EQ(defOf(tree, "F").mainType, TYP_SYNONYM);
+}
+
+TEST(AsnGenType, NameOfASelectionThroughParameters)
+{
+  AsnCompiled compiled =
+      compileBody("B ::= A\nA ::= Pick {C}\nPick {T} ::= x < T\n"
+                  "C ::= CHOICE { x NULL }\nD ::= L\nL ::= Line {NULL}\n"
+                  "Line {T} ::= SEQUENCE OF T");
+  const StxTree &tree = treeOf(compiled);
+  // An instance of its own; a name of another instance is a reference.
+  EXPECT_NE(defOf(tree, "B").fieldRef, 0);
+  EXPECT_NE(defOf(tree, "B").ref, typeNamed(tree, "A"));
+  EXPECT_EQ(nodeOf(tree, defOf(tree, "B").ref).mainType, TYP_SELECTION);
+  EXPECT_EQ(defOf(tree, "D").fieldRef, 0);
+  EXPECT_EQ(defOf(tree, "D").ref, typeNamed(tree, "L"));
+}
+
 TEST(AsnGenType, AnyDefinedBy)
 {
   AsnCompiled compiled =

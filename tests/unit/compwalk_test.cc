@@ -110,11 +110,16 @@ struct CompWalk : TypeTrees {
     entry.inM = structure.inM;
     for (int i = roll(3); i >= 0; --i)
       entry.members.push_back(plain(structure, group));
+    if (!structures.empty() && roll(3) == 0)
+      addComponentsOf(structure, group, entry.members);
+    stxTypeAt(treeOf(structure), group).nrComps =
+        static_cast<int32_t>(entry.members.size());
     structure.entries.push_back(entry);
   }
 
   // The root of an earlier structure, directly or by a synonym.
-  void addComponentsOf(Structure &structure)
+  void addComponentsOf(Structure &structure, int32_t father,
+                       std::vector<Entry> &entries)
   {
     const Structure &target = structures[static_cast<size_t>(
         roll(static_cast<int>(structures.size())))];
@@ -124,14 +129,23 @@ struct CompWalk : TypeTrees {
       node = stxNewSynonym(
           stxDefineType(at, "Syn-" + std::to_string(++named), node));
     node.compStatus = TCS_COMPOF;
-    stxAddComp(at, structure.record, "", node);
+    stxAddComp(at, father, "", node);
     for (const Entry &entry : target.entries) {
       if (entry.marker)
         break;
       Entry copy = entry;
       copy.inComponentsOf = true;
-      structure.entries.push_back(copy);
+      entries.push_back(copy);
     }
+  }
+
+  // A component, or those of an earlier structure.
+  void addPlain(Structure &structure)
+  {
+    if (!structures.empty() && roll(3) == 0)
+      addComponentsOf(structure, structure.record, structure.entries);
+    else
+      structure.entries.push_back(plain(structure, structure.record));
   }
 
   void make(bool inM)
@@ -143,12 +157,8 @@ struct CompWalk : TypeTrees {
     structure.record =
         stxDefineType(treeOf(structure), name, stxNewTNode(mainTypes[roll(3)]));
     int root = roll(4);
-    for (int i = 0; i < root; ++i) {
-      if (!structures.empty() && roll(3) == 0)
-        addComponentsOf(structure);
-      else
-        structure.entries.push_back(plain(structure, structure.record));
-    }
+    for (int i = 0; i < root; ++i)
+      addPlain(structure);
     // Additions behind a marker, a second marker, the second root list.
     int markers = roll(3);
     for (int m = 0; m < markers; ++m) {
@@ -157,7 +167,7 @@ struct CompWalk : TypeTrees {
         if (m == 0 && roll(2) == 0)
           addGroup(structure);
         else
-          structure.entries.push_back(plain(structure, structure.record));
+          addPlain(structure);
       }
     }
     number(structure);

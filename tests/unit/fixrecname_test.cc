@@ -129,6 +129,14 @@ TEST(CompareFixRec, Outputs)
             0);
   EXPECT_NE(compareFixRec(fixRec("x", 9, "abc"), fixRec("x", 9, "ABC")), 0);
   EXPECT_NE(compareFixRec(fixRec("abc", 3), fixRec("x", 9, "abd")), 0);
+  // With a name on one side only, the other's id is not looked at.
+  EXPECT_NE(compareFixRec(fixRec("abc", 3), fixRec("x", 9, "abc")), 0);
+  EXPECT_NE(compareFixRec(fixRec("x", 9, "abc"), fixRec("abc", 3, "")), 0);
+  FixRec dressed = fixRec("abc", 3);
+  dressed.pref = "p-";
+  EXPECT_EQ(compareFixRec(dressed, fixRec("x", 9, "p_")), 0);
+  // Without names, not at what they would be dressed in.
+  EXPECT_EQ(compareFixRec(dressed, fixRec("abc", 3)), 0);
   EXPECT_EQ(compareFixRec(FixRec{}, FixRec{}), 0);
 }
 

@@ -316,7 +316,7 @@ TEST(GenObject, FaultsOfObjects)
   EXPECT_EQ(classErrorOf("o OP ::= {CODE 5 VALUE 5}"),
             "expected \"}\", found \"VALUE\"");
   EXPECT_EQ(classErrorOf("o OP ::= {CODE TRUE}"),
-            "the value does not fit its type");
+            "value \"TRUE\" does not fit its type");
   EXPECT_EQ(classErrorOf("o OP ::= {&code 5}"),
             "expected \"CODE\", found \"&code\"");
   EXPECT_EQ(classErrorOf("o ERR ::= {CODE 5}"),
@@ -327,9 +327,9 @@ TEST(GenObject, FaultsOfObjects)
             "the class has no field \"&x\"");
   EXPECT_EQ(classErrorOf("o ERR ::= {&code 1, &code 2}"),
             "field \"&code\" is set twice");
-  EXPECT_EQ(classErrorOf("o ERR ::= 5"), "an object is needed here");
+  EXPECT_EQ(classErrorOf("o ERR ::= 5"), "an object is needed here, not \"5\"");
   EXPECT_EQ(classErrorOf("o ERR ::= p\np OP ::= {CODE 1}"),
-            "the object is of another class");
+            "\"p\" is an object of another class");
   EXPECT_EQ(classErrorOf("C ::= CLASS { &T OPTIONAL, &v &T OPTIONAL }\n"
                          "o C ::= {&v 5}"),
             "the object has no field \"&T\"");
@@ -338,7 +338,8 @@ TEST(GenObject, FaultsOfObjects)
 TEST(GenObject, CirclesOfObjects)
 {
   EXPECT_EQ(compileWithClass("a ERR ::= b\nb ERR ::= a").errors.size(), 2u);
-  EXPECT_EQ(classErrorOf("a OP ::= a.&linked"), "circular definition");
+  EXPECT_EQ(classErrorOf("a OP ::= a.&linked"),
+            "circular definition of \"a.&linked\"");
   EXPECT_TRUE(compileWithClass("a OP ::= {CODE 1 LINKED a}").good);
 }
 
@@ -429,13 +430,13 @@ TEST(GenObject, FaultsOfSets)
   EXPECT_EQ(classErrorOf("S ERR ::= {T}\nT OP ::= {...}"),
             "\"T\" is a set of another class");
   EXPECT_EQ(classErrorOf("S ERR ::= {o}\no OP ::= {CODE 1}"),
-            "the object is of another class");
+            "\"o\" is an object of another class");
   EXPECT_EQ(classErrorOf("S ERR ::= {..., o}\no OP ::= {CODE 1}"),
-            "the object is of another class");
+            "\"o\" is an object of another class");
   EXPECT_EQ(classErrorOf("S ERR ::= {(1..2)}"),
-            "an object or object set is needed here");
+            "an object or object set is needed here, not \"1\"");
   EXPECT_EQ(classErrorOf("S ERR ::= {INTEGER}"),
-            "an object or object set is needed here");
+            "an object or object set is needed here, not \"INTEGER\"");
   EXPECT_EQ(classErrorOf("S ERR ::= {T}\nT ::= NULL"),
             "\"T\" is not an object set");
   EXPECT_EQ(classErrorOf("S ERR ::= {..., nope}"), "\"nope\" is not defined");
@@ -465,8 +466,9 @@ TEST(GenObject, FieldTypes)
   const SNode &first = linkOf(tree, nodeOf(tree, comps[2]).fieldRef);
   EXPECT_EQ(first.target, fieldOf(tree, "OP", "linked"));
   EXPECT_EQ(linkOf(tree, first.nextLink).target, fieldOf(tree, "OP", "code"));
-  EXPECT_EQ(nodeOf(tree, comps[3]).mainType, TYP_SYNONYM);
-  EXPECT_EQ(constraintOf(tree, nodeOf(tree, comps[3]).ref), "[0,9]");
+  // The type that the object has stands in place.
+  EXPECT_EQ(nodeOf(tree, comps[3]).mainType, TYP_INTEGER);
+  EXPECT_EQ(constraintOf(tree, comps[3]), "[0,9]");
   EXPECT_EQ(linkOf(tree, nodeOf(tree, comps[4]).fieldRef).target,
             fieldOf(tree, "OP", "code"));
 }
@@ -485,10 +487,16 @@ TEST(GenObject, PredefinedClasses)
   EXPECT_EQ(compsOf(tree, comps[0]).size(), 2u);
   const TNode &id = nodeOf(tree, comps[1]);
   EXPECT_EQ(nodeOf(tree, id.ref).mainType, TYP_OBJID);
+  // As a field has it: no definition stands there.
+  EXPECT_EQ(nodeOf(tree, id.ref).compStatus, TCS_MANDATORY);
+  EXPECT_NE(nodeOf(tree, id.ref).hidden, 0);
+  EXPECT_EQ(id.nodeFlags & NF_RECURSIVE, 0);
   ASSERT_EQ(tree.imports.size(), 1u);
   EXPECT_EQ(striAt(tree, tree.imports[0].moduleName), "ISO8824");
   EXPECT_EQ(linkOf(tree, id.fieldRef).linkModule, 2);
   EXPECT_EQ(nodeOf(tree, nodeOf(tree, comps[2]).ref).mainType, TYP_OPEN);
+  EXPECT_EQ(nodeOf(tree, nodeOf(tree, comps[2]).ref).compStatus, TCS_MANDATORY);
+  EXPECT_EQ(nodeOf(tree, compsOf(tree, comps[0]).at(0)).nodeFlags, 0);
   EXPECT_EQ(valueOf(tree, valueNamed(tree, "o")).mainType, TYP_TYPE_ID);
   EXPECT_THAT(settingsOf(tree, valueNamed(tree, "o")),
               ElementsAre("id", "Type"));
@@ -497,6 +505,40 @@ TEST(GenObject, PredefinedClasses)
   EXPECT_EQ(valueOf(tree, valueNamed(tree, "x")).mainType, TYP_ABSTR_STX);
   EXPECT_THAT(settingsOf(tree, valueNamed(tree, "x")),
               ElementsAre("id", "Type", "property"));
+}
+
+TEST(GenObject, FieldsOfPredefinedClassesAsDefinitions)
+{
+  AsnCompiled compiled = compileBody("A ::= TYPE-IDENTIFIER.&id\nB ::= A\n"
+                                     "P ::= ABSTRACT-SYNTAX.&property\n");
+  StxTree &tree = treeOf(compiled);
+  for (const char *name : {"A", "B", "P"}) {
+    SCOPED_TRACE(name);
+    EXPECT_EQ(defOf(tree, name).mainType, TYP_FIELDLIST);
+    EXPECT_EQ(defOf(tree, name).nodeFlags & NF_RECURSIVE, 0);
+  }
+  EXPECT_EQ(nodeOf(tree, defOf(tree, "B").ref).mainType, TYP_OBJID);
+  const TNode &property = nodeOf(tree, defOf(tree, "P").ref);
+  EXPECT_EQ(property.mainType, TYP_BITSTR);
+  EXPECT_EQ(property.compStatus, TCS_OPTIONAL);
+}
+
+TEST(GenObject, NameOfAFieldTypeIsThatField)
+{
+  AsnCompiled compiled =
+      compileWithClass("B ::= A\nA ::= OP.&code\nD ::= T\nT ::= o.&Arg\n"
+                       "o OP ::= {CODE 1 ARGUMENT BOOLEAN}");
+  StxTree &tree = treeOf(compiled);
+  for (const char *name : {"A", "B"}) {
+    SCOPED_TRACE(name);
+    EXPECT_EQ(defOf(tree, name).mainType, TYP_FIELDLIST);
+    EXPECT_EQ(linkOf(tree, defOf(tree, name).fieldRef).target,
+              fieldOf(tree, "OP", "code"));
+  }
+  // What an object has is a type like others.
+  EXPECT_EQ(defOf(tree, "T").mainType, TYP_BOOLEAN);
+  EXPECT_EQ(defOf(tree, "D").mainType, TYP_SYNONYM);
+  EXPECT_EQ(defOf(tree, "D").ref, typeNamed(tree, "T"));
 }
 
 // Parameters
@@ -519,13 +561,14 @@ TEST(GenObject, ThroughParameters)
     return linkOf(tree, nodeOf(tree, node).fieldRef).target;
   };
   EXPECT_EQ(constraintOf(tree, comp("T", "x")), "kind17");
-  EXPECT_EQ(nodeOf(tree, nodeOf(tree, comp("T", "y")).ref).mainType,
-            TYP_BOOLEAN);
-  EXPECT_EQ(nodeOf(tree, nodeOf(tree, comp("U", "y")).ref).mainType,
-            TYP_INTEGER);
+  EXPECT_EQ(nodeOf(tree, comp("T", "y")).mainType, TYP_BOOLEAN);
+  EXPECT_EQ(nodeOf(tree, comp("U", "y")).mainType, TYP_INTEGER);
   EXPECT_EQ(linked(comp("T", "z")), fieldOf(tree, "ERR", "code"));
   EXPECT_EQ(linked(comp("U", "z")), fieldOf(tree, "OP", "code"));
-  EXPECT_EQ(linked(comp("U", "v")), fieldOf(tree, "ERR", "code"));
+  // The values that the objects of the set have.
+  EXPECT_EQ(nodeOf(tree, comp("U", "v")).classFlags & CF_SET, CF_SET);
+  EXPECT_EQ(constraintOf(tree, comp("U", "v")), "1");
+  EXPECT_EQ(constraintOf(tree, comp("T", "v")), "union(1 2)");
   EXPECT_EQ(
       constraintText(tree, defOf(tree, "S").firstConstraint).find("union("),
       0u);
@@ -557,7 +600,8 @@ TEST(GenObject, WorkIsBounded)
   AsnCompiled compiled =
       compileBody(sets + "N C ::= {...}\nE C ::= {P40 {{N}}}");
   ASSERT_EQ(compiled.errors.size(), 1u);
-  EXPECT_THAT(compiled.errors[0], HasSubstr("nested too deeply"));
+  EXPECT_THAT(compiled.errors[0],
+              HasSubstr("more than 100000 object sets are written out"));
 }
 
 // What readers make of the records

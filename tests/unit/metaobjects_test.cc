@@ -3,6 +3,7 @@
 #include "base/upcalls.h"
 #include "driver/metaobjects.h"
 #include "model/asnvalue.h"
+#include "model/objectset.h"
 #include <gtest/gtest.h>
 
 // A record comes from its own cache and goes back to it.
@@ -56,16 +57,46 @@ TEST(MetaObjects, CachesAreApart)
   deleteBEValMetaRec(record);
 }
 
-TEST(MetaObjects, OptionsArePassedOverInSilence)
+// Hands each line to `apply`, which must say nothing and go on.
+template <class Apply>
+static void checkSilence(Apply apply)
 {
-  AsnValue value;
-  BEValMetaRec *record = newBEValMetaRec();
   testing::internal::CaptureStdout();
   testing::internal::CaptureStderr();
-  for (const char *line :
-       {"-BEO=QUORVEN=FUNC:f:x", "-FUNC:f:x", "-nothing", "-BEO=OTHER=X", "-"})
-    valueBEOptionOK(value, *record, line);
+  for (const char *line : {"-BEO=QUORVEN=FUNC:f:x", "-BEO=QUORVEN=VERSION",
+                           "-FUNC:f:x", "-nothing", "-BEO=OTHER=X", "-", ""})
+    apply(line);
   EXPECT_EQ(testing::internal::GetCapturedStdout(), "");
   EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
-  deleteBEValMetaRec(record);
+}
+
+TEST(MetaObjects, OptionsOfValuesArePassedOver)
+{
+  AsnValue value;
+  BEValMetaRec record;
+  checkSilence([&](const char *line) { valueBEOptionOK(value, record, line); });
+}
+
+TEST(MetaObjects, OptionsOfClassesArePassedOver)
+{
+  AsnObjClass objClass;
+  BEClassMetaRec record;
+  checkSilence(
+      [&](const char *line) { classBEOptionOK(objClass, record, line); });
+}
+
+TEST(MetaObjects, OptionsOfObjectsArePassedOver)
+{
+  AsnObject object;
+  BEObjMetaRec record;
+  checkSilence(
+      [&](const char *line) { objectBEOptionOK(object, record, line); });
+}
+
+TEST(MetaObjects, OptionsOfObjectSetsArePassedOver)
+{
+  AsnObjectSet set;
+  BEObjSetMetaRec record;
+  checkSilence(
+      [&](const char *line) { objectSetBEOptionOK(set, record, line); });
 }

@@ -157,6 +157,34 @@ TEST_F(ModLoad, OptionsSavedInTheTree)
   EXPECT_TRUE(b->combined.empty());
 }
 
+// The front-end's lines are in force before the back-end drops those that it
+// does not know; a table of prefixes comes before both.
+TEST_F(ModLoad, OrderOfThePassesOverATree)
+{
+  StxTree tree = treeOf("a");
+  stxGlobalOption(tree, TED_BACK_END, "-TPREF=x_");
+  stxGlobalOption(tree, TED_BACK_END, "-PREFIX=Mod-b:b");
+  stxGlobalOption(tree, TED_BACK_END, "-V=3");
+  stxGlobalOption(tree, TED_FRONT_END, "-NAMELEN=40");
+  write(tree, "a");
+  ModRec *a = name("a");
+  verboseEx = 2;
+  testing::internal::CaptureStderr();
+  EXPECT_EQ(readSyntaxTree(*a, message), 0);
+  EXPECT_EQ(testing::internal::GetCapturedStderr(),
+            "\nWARNING : Option ignored: -TPREF=x_\n"
+            "\nWARNING : Option ignored: -PREFIX=Mod-b:b\n"
+            "\nWARNING : Option ignored: -V=3\n");
+  EXPECT_STREQ(a->options.fixRecs[0].pref, "x_");
+  EXPECT_EQ(a->options.nameLen, 40);
+  EXPECT_NE(moduleOf("b"), nullptr);
+  std::vector<int> kinds;
+  for (const TedRec &record : a->tedRecs.records)
+    kinds.push_back(record.tedKind);
+  EXPECT_THAT(kinds, ElementsAre(0, 0, 0, 3));
+  EXPECT_EQ(verboseEx, 2);
+}
+
 // A saved tree directory counts for all that is loaded later.
 TEST_F(ModLoad, SavedTreeDirectory)
 {

@@ -107,6 +107,13 @@ TEST_F(OutFiles, InitKeepsCopies)
   EXPECT_EQ(*nameOfF(text, nullptr, 5, nullptr), dir.path + "abcpec.c");
 }
 
+TEST_F(OutFiles, InitWithoutDirectoryForgetsTheOld)
+{
+  initF(5, "old/", "old.c");
+  initF(5, nullptr, "pec.c");
+  EXPECT_EQ(*dirOfF(text, "<", 5, ">"), "<>");
+}
+
 TEST_F(OutFiles, OpenPassesOverAnOpenFile)
 {
   open(5);

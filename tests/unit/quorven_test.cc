@@ -15,6 +15,7 @@
 #include <filesystem>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <new>
 #include <set>
 #include <string>
 
@@ -375,6 +376,60 @@ TEST_F(Quorven, FullDisk)
                             run.path("abcpec.c") + "\n\n");
 }
 
+// One file for both sides: what the decoder calls stands behind all that the
+// encoder does.
+TEST_F(Quorven, EncoderAheadOfTheDecoder)
+{
+  for (const char *entryName : {"First", "Second"}) {
+    TNode entry = stxNewTNode(TYP_BOOLEAN);
+    entry.entryFlags = 0x4C;  // for encoder and decoder
+    stxDefineType(abc, entryName, entry);
+  }
+  EXPECT_EQ(runAll({"abc", "-PERCOD=1:1"}).status, 0);
+  std::string text = run.file("abcper.c");
+  size_t lastEncoder = text.rfind(" pe_");
+  size_t firstDecoder = text.find(" pd_");
+  ASSERT_NE(lastEncoder, std::string::npos);
+  ASSERT_NE(firstDecoder, std::string::npos);
+  EXPECT_LT(lastEncoder, firstDecoder);
+}
+
+// Each file is full until the one before it in the order of closing was not.
+TEST_F(Quorven, OrderOfClosing)
+{
+  addAll();
+  const char *const names[] = {"abcpec.c", "abcpdc.c", "abcpec.ext",
+                               "abcpdc.ext", "run.log"};
+  for (const char *name : names)
+    std::filesystem::create_symlink("/dev/full", run.path(name));
+  std::vector<std::string> arguments = {"abc", "-PERCOD=2:2",
+                                        "-LOGFILE=" + run.path("run.log")};
+  for (const char *name : names) {
+    EXPECT_EQ(run.run(arguments).err, "\nFATAL ERROR : Can not close file\n"
+                                      "              " +
+                                          run.path(name) + "\n\n");
+    std::filesystem::remove(run.path(name));
+  }
+  EXPECT_EQ(run.run(arguments).status, 0);
+}
+
+// What `new` asks for when it gets no memory.
+TEST_F(Quorven, NoMemoryForAnObject)
+{
+  addAll();
+  std::string directory = "-S=" + run.dir.path;
+  ProcessResult result = runApart([&] {
+    std::string name = "quorven", prefix = "abc";
+    char *vector[] = {name.data(), directory.data(), prefix.data(), nullptr};
+    quorven_main(3, vector);
+    if (std::new_handler handler = std::get_new_handler())
+      handler();
+    return 33;
+  });
+  EXPECT_EQ(result.status, 2);
+  EXPECT_EQ(result.err, "\nFATAL ERROR : Can not allocate space\n\n");
+}
+
 // --- side files -------------------------------------------------------------
 
 TEST_F(Quorven, SideFiles)
@@ -401,6 +456,29 @@ TEST_F(Quorven, NoSideFilesWithoutAPrefix)
 {
   EXPECT_EQ(runAll({"abc", "-ADE-DIRECTORY=" + run.dir.path}).status, 0);
   EXPECT_THAT(files(), ElementsAre("abcpdc.c", "abcpec.c", "abcper.ext"));
+}
+
+// The tree comes ahead of the closing line, the summary ahead of the banner.
+TEST_F(Quorven, SideFilesThatFail)
+{
+  addAll();
+  std::vector<std::string> arguments = {"abc", "-ADE-PREFIX=proj",
+                                        "-ADE-DIRECTORY=" + run.dir.path};
+  std::filesystem::create_directory(run.path("proj.apd"));
+  ProcessResult result = run.run(arguments);
+  EXPECT_EQ(result.status, 2);
+  EXPECT_EQ(result.out, banner());
+  EXPECT_EQ(result.err, "\nFATAL ERROR : Can not open file for writing\n"
+                        "              " +
+                            run.path("proj.apd") + "\n\n");
+  EXPECT_EQ(run.file("proj.acs"), result.err);
+  EXPECT_THAT(run.file("abcper.ext"), EndsWith("\n#endif /*ABCPER_EXT*/\n"));
+
+  std::filesystem::remove(run.path("proj.acs"));
+  std::filesystem::create_directory(run.path("proj.acs"));
+  result = run.run(arguments);
+  EXPECT_EQ(result.status, 2);
+  EXPECT_EQ(result.out, "");
 }
 
 TEST_F(Quorven, FatalErrorInTheSummary)
@@ -434,15 +512,17 @@ TEST_F(Quorven, GenModule)
   // The log is begun once a process: in this one by nobody else.
   ProcessResult result = runApart([&] {
     genModule(module);
-    printf("variant %d, stamps from 6 on: %d\n", perGetEncodingVariant(),
-           stampGHD >= 6 && stampGHD < 500 && stampGAD == stampGHD + 2);
+    printf("variant %d\n", perGetEncodingVariant());
+    printf("stamps %d %d %d\n", stampGHD, stampGIP, stampGAD);
     printf("%d %d %d\n", fiEnc, fiEncE, fiLog != nullptr);
     return 0;
   });
   EXPECT_EQ(result.status, 0);
   EXPECT_EQ(result.out, "QUORVEN>>> generating Def_Mod\n"
-                        "variant 1, stamps from 6 on: 1\n"
-                        "0 0 0\n");
+                        "variant 1\n"
+                        "stamps 12 13 14\n"
+                        "0 0 0\n")
+      << "6 to 8 at first, moved on by the encoder and by the decoder";
   // The line names the files, so they were open when it was written.
   EXPECT_EQ(run.file("run.log"), "def.stx: " + run.path("defper.c") + " " +
                                      run.path("defpec.ext") + " " +

@@ -359,6 +359,21 @@ TEST_F(TypeConstruct, TopLevelInstance)
   EXPECT_EQ(baseName(*type), "Inst");
 }
 
+TEST_F(TypeConstruct, TopLevelInstanceAsComponent)
+{
+  // It takes the status of its own node, and so its father's name.
+  int32_t body = inner(TYP_SEQ);
+  int32_t father = define("Outer", TYP_SEQ);
+  int32_t record = comp(father, "a", instanceOf(body));
+  start();
+  TestType type(module, father);
+  TestSon son(type, record);
+  EXPECT_TRUE(isTopLevelInstantiatedType(*son));
+  EXPECT_EQ(son->base.compStatus, TCS_MANDATORY);
+  EXPECT_EQ(refOf(*son), "a");
+  EXPECT_EQ(baseName(*son), "Outer");
+}
+
 TEST_F(TypeConstruct, InstanceOfASynonym)
 {
   int32_t base = define("Base", TYP_REAL);
@@ -464,6 +479,22 @@ TEST_F(TypeConstruct, AnonymousComponent)
   EXPECT_EQ(son->level, 0);
   TestSon inside(type, record);
   EXPECT_EQ(inside->base.compStatus, TCS_MANDATORY);
+}
+
+TEST_F(TypeConstruct, AutomaticTagNumber)
+{
+  int32_t father = define("S", TYP_SEQ);
+  at(father).nodeFlags |= NF_AUTOMATIC_TAGS;
+  int32_t record = comp(father, "a", TYP_NULL);
+  start();
+  TestType type(module, father);
+  EXPECT_EQ(TestSon(type, record, 5)->tagsOutermost->tagNumber, 5);
+  // Unless a number is given it is 0.
+  readRec(module.rec, REC_TNODE, record);
+  AsnType *son = newAsnType(&module, &module);
+  getTypePath(type.type, *son, true);
+  EXPECT_EQ(son->tagsOutermost->tagNumber, 0);
+  delAsnType(son);
 }
 
 TEST_F(TypeConstruct, LevelsOfElements)
@@ -734,12 +765,66 @@ TEST_F(TypeConstruct, OptionsOfTheBaseComeLast)
   EXPECT_STREQ(getMetaFuncOption(*type), "1");
 }
 
-TEST_F(TypeConstruct, ModuleCursorsOutliveTheMetaRecord)
+// The linker brings the calls of `newBETypMetaRec` here (the option --wrap),
+// so that a constructor can do what it must not. The real one is null in a
+// binary that was linked otherwise.
+[[gnu::weak]] BETypMetaRec *
+realMetaRec(const AsnType &) asm("__real__Z15newBETypMetaRecRK7AsnType");
+BETypMetaRec *
+wrappedMetaRec(const AsnType &) asm("__wrap__Z15newBETypMetaRecRK7AsnType");
+
+// What a constructor does besides; null: nothing.
+static void (*inMetaConstructor)(const AsnType &);
+
+BETypMetaRec *wrappedMetaRec(const AsnType &type)
+{
+  if (inMetaConstructor)
+    inMetaConstructor(type);
+  return realMetaRec(type);
+}
+
+static void walkTypes(const AsnType &type)
+{
+  forEachType(*type.homeMod, [](AsnType &, int) {});
+}
+
+struct TypeConstructInMetaRec : TypeConstruct {
+  void SetUp() override
+  {
+    if (!realMetaRec)
+      GTEST_SKIP() << "linked without --wrap";
+  }
+  void TearDown() override { inMetaConstructor = nullptr; }
+};
+
+TEST_F(TypeConstructInMetaRec, NoTypeIsBuilt)
+{
+  start();
+  setCreateBETypMetaFlag(true);
+  inMetaConstructor = walkTypes;
+  EXPECT_EXIT(TestType(module, integer), ExitedWithCode(2),
+              "Type iterator called inside BETypMetaRec constructor\\.");
+  // Views that need no record may be built; the guard is dropped again.
+  inMetaConstructor = [](const AsnType &type) {
+    bool wanted = setCreateBETypMetaFlag(false);
+    walkTypes(type);
+    setCreateBETypMetaFlag(wanted);
+  };
+  EXPECT_NE(getBETypMetaRec(*TestType(module, integer)), nullptr);
+  inMetaConstructor = nullptr;
+  EXPECT_NE(getBETypMetaRec(*TestType(module, integer)), nullptr);
+}
+
+TEST_F(TypeConstructInMetaRec, CursorsOfTheModuleArePutBack)
 {
   start();
   setCreateBETypMetaFlag(true);
   module.cursors.types[SELECT_COMPS] = 5;
   module.cursors.values[1] = 6;
+  inMetaConstructor = [](const AsnType &type) {
+    type.mod->cursors.types[SELECT_COMPS] = 7;
+    type.mod->cursors.values[1] = 8;
+  };
   TestType type(module, integer);
   EXPECT_EQ(module.cursors.types[SELECT_COMPS], 5);
   EXPECT_EQ(module.cursors.values[1], 6);

@@ -372,6 +372,70 @@ TEST_F(TypeIterComps, ComponentsOfBringsTheRoot)
   EXPECT_EQ(shownComps(outer, forEachTypeCompRevOrd), "y3 b2 a1 x0 ");
 }
 
+// What is brought in from the module of the father is at home there.
+TEST_F(TypeIterComps, ComponentsOfTheSameModule)
+{
+  int32_t outer = define("Outer", TYP_SEQ);
+  componentsOf(outer, father, 2);
+  start();
+  TestType type(module, outer);
+  forEachTypeComp(*type, [](AsnType &, AsnType &comp_, int number) {
+    note(comp_, number);
+    EXPECT_TRUE(comp_.inComponentsOf);
+    EXPECT_TRUE(isBaseTypeInCurrentModule(comp_));
+  });
+  EXPECT_EQ(seen, "a0 b1 ");
+}
+
+TEST_F(TypeIterComps, ComponentsOfAmongTheAdditions)
+{
+  int32_t outer = define("Outer", TYP_SEQ);
+  comp(outer, "x", TYP_BOOLEAN);
+  marker(outer);
+  comp(outer, "y", TYP_BOOLEAN);
+  componentsOf(outer, father, 2);
+  comp(outer, "z", TYP_BOOLEAN);
+  start();
+  TestType type(module, outer);
+  forEachTypeComp(*type, [](AsnType &, AsnType &comp_, int number) {
+    note(comp_, number);
+    seen += "/" + std::to_string(comp_.extCompNbr) + " ";
+  });
+  EXPECT_EQ(seen, "x0 /-1 1 /-1 y2 /0 a3 /1 b4 /2 z5 /3 ");
+  EXPECT_EQ(type->extMarkerCompNbr, 1);
+}
+
+// They are the group's members as much as its own are.
+TEST_F(TypeIterComps, ComponentsOfInAGroup)
+{
+  int32_t outer = define("Outer", TYP_SEQ);
+  comp(outer, "x", TYP_BOOLEAN);
+  marker(outer);
+  int32_t group = comp(outer, "", TYP_EXTADDGRP);
+  comp(group, "y", TYP_BOOLEAN);
+  componentsOf(group, father, 2);
+  comp(group, "z", TYP_BOOLEAN);
+  comp(outer, "last", TYP_BOOLEAN);
+  start();
+  TestType type(module, outer);
+  forEachTypeComp(*type, [](AsnType &outer_, AsnType &comp_, int number) {
+    note(comp_, number);
+    EXPECT_EQ(comp_.addGroup, nullptr);
+    if (comp_.base.mainType != TYP_EXTADDGRP)
+      return;
+    static AsnType *group_;
+    group_ = &comp_;
+    forEachAdditionGroupComp(
+        outer_, comp_, [](AsnType &father_, AsnType &member, int number_) {
+          note(member, number_);
+          EXPECT_EQ(member.father, &father_);
+          EXPECT_EQ(member.addGroup, group_);
+          EXPECT_EQ(member.inComponentsOf, number_ == 3 || number_ == 4);
+        });
+  });
+  EXPECT_EQ(seen, "x0 1 2 y2 a3 b4 z5 last6 ");
+}
+
 TEST_F(TypeIterComps, ComponentsOfNothing)
 {
   int32_t outer = define("Outer", TYP_SEQ);
@@ -637,12 +701,11 @@ TEST_F(TypeIterDamage, ComponentsOfEachOther)
   dies(a, damagedM);
 }
 
-// Enough records that the depth ends it, and not their number.
 TEST_F(TypeIterDamage, DeepComponentsOfItself)
 {
   int32_t father = define("S", TYP_SEQ);
   componentsOf(father, father, 1);
-  for (int i = 0; i < 2 * maxWalkNesting; ++i)
+  for (int i = 0; i < 2000; ++i)
     stxType(tree, stxNewTNode(TYP_NULL));
   dies(father, damagedM);
   dies(father, damagedM, forEachTypeCompRevOrd);
@@ -697,7 +760,7 @@ TEST_F(TypeIterDamage, DeepComponentsOfThatEnd)
   // Deep, but sound: each brings in the next one's component.
   int32_t inner = define("S0", TYP_SEQ);
   comp(inner, "a", TYP_NULL);
-  for (int i = 1; i < maxWalkNesting; ++i) {
+  for (int i = 1; i < 2500; ++i) {
     int32_t outer = define("S" + std::to_string(i), TYP_SEQ);
     componentsOf(outer, inner, 1);
     inner = outer;

@@ -464,6 +464,7 @@ TEST_F(TypeNodes, FieldsOfAClass)
     EXPECT_EQ(isValFieldTNode(), row.isValue) << i;
     EXPECT_EQ(isValSetFieldTNode(), row.isValueSet) << i;
     EXPECT_EQ(isVariabTypeFieldTNode(), row.isVariable) << i;
+    EXPECT_EQ(isVariabTypeTNode(), row.isVariable) << i;
   }
 }
 

@@ -189,6 +189,19 @@ TEST_F(TypeQueryWalk, Counts)
   EXPECT_EQ(getNrOfOptionalTypeComps(*type), 0);
 }
 
+// A marker is a component of the status "mandatory".
+TEST_F(TypeQueryWalk, CountsWithAMarker)
+{
+  int32_t record = define("S", TYP_SEQ);
+  comp(record, "a", TYP_NULL);
+  marker(record);
+  comp(record, "b", TYP_NULL, TCS_OPTIONAL);
+  start();
+  TestType type(module, record);
+  EXPECT_EQ(getNrOfMandatoryTypeComps(*type), 2);
+  EXPECT_EQ(getNrOfOptionalTypeComps(*type), 1);
+}
+
 // Of each component: its name and the answers, one digit each.
 static std::string seen;
 
@@ -355,6 +368,18 @@ TEST_F(TypeQueryWalk, NumbersThatDoNotFit)
   }
 }
 
+TEST_F(TypeQueryWalk, WarningAlone)
+{
+  start();
+  for (int verbosity : {0, 1, 2, 3}) {
+    verboseEx = verbosity;
+    testing::internal::CaptureStderr();
+    int64Warning(module, 12, "label");
+    EXPECT_EQ(testing::internal::GetCapturedStderr(),
+              verbosity >= 2 ? warningOfM : "");
+  }
+}
+
 TEST_F(TypeQueryWalk, NumbersThatPassWrongly)
 {
   // With a high word of -1 the low word is taken, unseen.
@@ -390,6 +415,29 @@ TEST_F(TypeQueryWalk, SizeEndpoints)
   getInt64SizeEndpoints(*TestType(module, limited), wideLower, wideUpper,
                         wideLimit);
   EXPECT_EQ(i64cmpl(wideUpper, 9), 0);
+  EXPECT_EQ(i64cmpl(wideLimit, 5), 0);
+}
+
+// The limit is the base's, whatever the node itself has.
+TEST_F(TypeQueryWalk, SizeLimitOfTheBase)
+{
+  TNode node = stxNewTNode(TYP_OCTSTR);
+  stxSetBounds(node, 2, 9);
+  node.typeOptions.sizeLimit = 5;
+  int32_t base = define("A", node);
+  node = stxNewSynonym(base);
+  stxSetBounds(node, 3, 8);
+  node.typeOptions.sizeLimit = 7;
+  int32_t record = define("B", node);
+  start();
+  int32_t lower, upper, limit;
+  getSizeEndpoints(*TestType(module, record), lower, upper, limit);
+  EXPECT_EQ(lower, 3);
+  EXPECT_EQ(upper, 8);
+  EXPECT_EQ(limit, 5);
+  sint64 wideLower, wideUpper, wideLimit;
+  getInt64SizeEndpoints(*TestType(module, record), wideLower, wideUpper,
+                        wideLimit);
   EXPECT_EQ(i64cmpl(wideLimit, 5), 0);
 }
 
@@ -473,4 +521,25 @@ TEST_F(TypeQueryWalk, StampsOfInstances)
   EXPECT_EQ(stampOf(module.rec, parameterised), 40);
   EXPECT_EQ(stampOf(module.rec, instance), 40);
   EXPECT_EQ(stampOf(module.rec, reference), stampGenerated);
+}
+
+// A selection leads to no definition: its base is stamped alone.
+TEST_F(TypeQueryWalk, StampsOfSelections)
+{
+  TNode body = stxNewTNode(TYP_SEQ);
+  body.compStatus = -TCS_HEADER;
+  int32_t inner = stxType(tree, body);
+  int32_t choice = define("C", TYP_CHOICE);
+  int32_t alternative = comp(choice, "a", stxNewSynonym(inner));
+  TNode node = stxNewTNode(TYP_SELECTION);
+  node.ref = choice;
+  node.refModule = 1;
+  node.fieldRef = stxLink(tree, stxNewLink(alternative));
+  int32_t selection = define("Sel", node);
+  start();
+  TestType type(module, selection);
+  setBaseTypeStamp(*type, 30);
+  EXPECT_EQ(stampOf(module.rec, inner), 30);
+  EXPECT_EQ(stampOf(module.rec, alternative), stampGenerated);
+  EXPECT_EQ(stampOf(module.rec, selection), stampGenerated);
 }

@@ -311,6 +311,18 @@ static void genLate(Compilation &c)
   finishSelections(c);
 }
 
+// Circles that lead through alternatives or parameters, where names alone do
+// not show them.
+static void checkTypeCircles(Compilation &c)
+{
+  for (ModuleState &module : c.modules)
+    for (const Definition *def : module.order)
+      if (def->kind == DK_TYPE && def->node != 0 &&
+          refersToItself(c, {module.number, def->node}))
+        asnError(c.errors, def->assign->pos, "circular definition of %s",
+                 asnQuoted(def->assign->name).c_str());
+}
+
 static void genAll(Compilation &c)
 {
   for (ModuleState &module : c.modules)
@@ -332,6 +344,8 @@ static void genAll(Compilation &c)
   forEach([](DefKind kind) { return kind == DK_VALUE; }, genValueDefinition);
   genLate(c);
   checkValueCircles(c);
+  if (c.errors.errors.empty())
+    checkTypeCircles(c);
 }
 
 // Notes and representations

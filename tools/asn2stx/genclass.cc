@@ -462,8 +462,10 @@ NodeAt fieldNodeFor(Compilation &c, int into, ClassUse &objectClass,
     return classFieldNode(c, objectClass, field.name);
   }
   if (!field.governor)
-    return {into, builtinNode(c, into, TYP_OPEN)};
+    return {into, builtinFieldNode(c, into, TYP_OPEN)};
   if (field.governor->kind == AT_OBJECT_IDENTIFIER)
-    return {into, builtinNode(c, into, TYP_OBJID)};
-  return {into, genHiddenType(c, into, *objectClass.scope, *field.governor)};
+    return {into, builtinFieldNode(c, into, TYP_OBJID)};
+  int32_t node = genHiddenType(c, into, *objectClass.scope, *field.governor);
+  stxTypeAt(treeOf(c, into), node).compStatus = TCS_OPTIONAL;
+  return {into, node};
 }

@@ -484,6 +484,26 @@ static bool isExtensible(const AstConstraint &constraint, int mainType)
          hasExtensibleSize(*constraint.root);
 }
 
+// True for a constraint that PER never sees: what stands ahead of it stays as
+// extensible as it is.
+static bool isUnseen(const AstConstraint &constraint)
+{
+  AstElemKind kind = constraint.root ? constraint.root->kind : AE_VALUE;
+  switch (kind) {
+  case AE_WITH_COMPONENT:
+  case AE_WITH_COMPONENTS:
+  case AE_CONTAINING:
+  case AE_ENCODED_BY:
+  case AE_CONSTRAINED_BY:
+  case AE_PATTERN:
+  case AE_SETTINGS:
+  case AE_TABLE:
+    return true;
+  default:
+    return false;
+  }
+}
+
 // Numbers beyond 64 bits
 
 static bool reachesBeyond(Compilation &c, const AstElem &elem,
@@ -577,7 +597,8 @@ static void genNodeConstraints(Compilation &c, const LateConstraints &late)
   auto add = [&](const AstConstraint &constraint, const Scope &scope,
                  TypeUse constrained) {
     parent = constrained;
-    last = &constraint;
+    if (!isUnseen(constraint))
+      last = &constraint;
     int32_t sub =
         genConstraint(c, late.into, scope, constraint, constrained, at);
     noteConstraint(c, late, constraint, scope, constrained);

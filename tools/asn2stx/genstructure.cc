@@ -40,11 +40,6 @@ static void addComp(CompsRun &run, const AstComp &comp, int32_t father)
   TNode node = newNodeFor(c, comp.pos, TYP_NONE);
   bool isCompsOf = comp.kind == AC_COMPONENTS_OF;
   node.compStatus = isCompsOf ? TCS_COMPOF : compStatusOf(comp);
-  if (run.type.kind == AT_CHOICE && isCompsOf) {
-    asnError(c.errors, comp.pos, "COMPONENTS OF %s in a CHOICE",
-             typeShown(*comp.type).c_str());
-    return;
-  }
   int32_t index = stxAddComp(treeOf(c, run.into), father, comp.name, node);
   checkName(run, comp, index);
   if (isCompsOf)

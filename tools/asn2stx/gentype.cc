@@ -61,16 +61,28 @@ int32_t localReference(Compilation &c, int into, NodeAt target)
   return known;
 }
 
-int32_t builtinNode(Compilation &c, int into, int mainType)
+static int32_t hiddenBuiltin(Compilation &c, int into, int mainType, int key,
+                             int compStatus)
 {
-  int32_t &known = moduleAt(c, into).builtins[mainType];
+  int32_t &known = moduleAt(c, into).builtins[key];
   if (known == 0) {
     TNode node = stxNewTNode(mainType);
     node.hidden = 1;
-    node.compStatus = -TCS_HEADER;
+    node.compStatus = compStatus;
     known = stxType(treeOf(c, into), node);
   }
   return known;
+}
+
+int32_t builtinNode(Compilation &c, int into, int mainType)
+{
+  return hiddenBuiltin(c, into, mainType, mainType, -TCS_HEADER);
+}
+
+int32_t builtinFieldNode(Compilation &c, int into, int mainType)
+{
+  // No definition: a reference must not look for one behind it.
+  return hiddenBuiltin(c, into, mainType, ~mainType, TCS_MANDATORY);
 }
 
 // Tags
@@ -530,6 +542,41 @@ static bool isTooMuch(Compilation &c, int into, const AstType &type)
   return tooMuch;
 }
 
+// True for a definition that is a selection or a field of a class, or leads to
+// one: the chain of references ends in a node that is no definition.
+static bool endsInComponent(Compilation &c, const Definition &def)
+{
+  if (def.kind != DK_TYPE || def.assign->hasParams || !def.assign->type)
+    return false;
+  TypeUse at = {def.assign->type, moduleAt(c, def.module).scope};
+  CircleGuard<TypeUse> guard;
+  while (at.type && !guard.repeats(at)) {
+    if (at.type->kind == AT_SELECTION)
+      return true;
+    if (at.type->kind == AT_FIELD)
+      return !isFromObjects(c, *at.type, *at.scope);
+    if (at.type->kind != AT_REFERENCE)
+      return false;
+    at = nextType(c, *at.type, *at.scope);
+  }
+  return false;
+}
+
+// Puts what the names of such definitions stand for upon the layers of a
+// definition: the back-end takes the name of a definition for one only if
+// the chain ends in a definition.
+static bool skipToComponent(Compilation &c, TypeLayers &layers,
+                            Definition *&def, bool &good)
+{
+  while (good && !layers.back().type->ref.hasActuals &&
+         endsInComponent(c, *def)) {
+    layers.push_back({def->assign->type, moduleAt(c, def->module).scope});
+    if (!skipParameters(c, layers, def, good))
+      return false;
+  }
+  return true;
+}
+
 static void genLayers(Compilation &c, int into, TypeLayers layers, int32_t node)
 {
   if (isTooMuch(c, into, *layers.back().type))
@@ -538,6 +585,8 @@ static void genLayers(Compilation &c, int into, TypeLayers layers, int32_t node)
   Definition *def = nullptr;
   bool good = true;
   bool isReference = skipParameters(c, layers, def, good);
+  if (isReference && nodeAt(c, into, node).compStatus == TCS_HEADER)
+    isReference = skipToComponent(c, layers, def, good);
   if (good && isReference &&
       (def->assign->hasParams || layers.back().type->ref.hasActuals)) {
     genInstance(c, into, std::move(layers), *def, node);
@@ -596,21 +645,43 @@ static NodeAt linkedNode(Compilation &c, int module, int32_t link)
   return {};
 }
 
+// What a node is a reference to; node 0 at the end of a chain.
+static NodeAt referredNode(Compilation &c, NodeAt at)
+{
+  const TNode &node = nodeAt(c, at.module, at.node);
+  NodeAt next;
+  if (node.mainType == TYP_SYNONYM && node.ref != 0)
+    next = {moduleOfNumber(c, at.module, node.refModule), node.ref};
+  else if (node.mainType == TYP_SELECTION || node.mainType == TYP_FIELDLIST)
+    next = linkedNode(c, at.module, node.fieldRef);
+  // A field of a predefined class has its type here.
+  if (next.module < 0 && node.mainType == TYP_FIELDLIST)
+    next = {at.module, node.ref};
+  return next.node <= 0 || next.module < 0 ? NodeAt{} : next;
+}
+
 NodeAt baseNode(Compilation &c, NodeAt at)
 {
   CircleGuard<NodeAt> guard;
   while (at.node > 0 && !guard.repeats(at)) {
-    const TNode &node = nodeAt(c, at.module, at.node);
-    NodeAt next;
-    if (node.mainType == TYP_SYNONYM && node.ref != 0)
-      next = {moduleOfNumber(c, at.module, node.refModule), node.ref};
-    else if (node.mainType == TYP_SELECTION || node.mainType == TYP_FIELDLIST)
-      next = linkedNode(c, at.module, node.fieldRef);
-    if (next.node <= 0 || next.module < 0)
+    NodeAt next = referredNode(c, at);
+    if (next.node == 0)
       return at;
     at = next;
   }
   return {};
+}
+
+bool refersToItself(Compilation &c, NodeAt start)
+{
+  CircleGuard<NodeAt> guard;
+  NodeAt at = referredNode(c, start);
+  while (at.node != 0 && !guard.repeats(at)) {
+    if (at == start)
+      return true;
+    at = referredNode(c, at);
+  }
+  return false;
 }
 
 // The index of a name in a tree; 0 if it has none.

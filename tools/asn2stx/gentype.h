@@ -19,6 +19,9 @@ void genValueSetInto(Compilation &c, int into, const Scope &scope,
 // A hidden node of a builtin type without constraints, one per module.
 int32_t builtinNode(Compilation &c, int into, int mainType);
 
+// The same for the fields of predefined classes, with a field's status.
+int32_t builtinFieldNode(Compilation &c, int into, int mainType);
+
 // A hidden reference in `into` to a node of another module; the node itself
 // if it is of `into`.
 int32_t localReference(Compilation &c, int into, NodeAt target);
@@ -31,6 +34,9 @@ TNode newNodeFor(const Compilation &c, AsnPos pos, int mainType);
 
 // The node at the end of a chain of references; itself if it is none.
 NodeAt baseNode(Compilation &c, NodeAt at);
+
+// True if that chain leads back to the node.
+bool refersToItself(Compilation &c, NodeAt start);
 
 // The component, member or alternative of a structure, through its
 // references and COMPONENTS OF; node 0: none.

@@ -203,6 +203,7 @@ bool parseAsn2StxOptions(const std::vector<std::string> &arguments,
 {
   // The catalogue works on a module; it lives as long as the process.
   static ModRec scratch;
+  deleteFixRecs(scratch.options);
   initMetaRec(scratch.options);
   stampNow(options);
   options.catalogue = scratch.options;

@@ -1,0 +1,27 @@
+/****************************************************************
+ * Processed by QUORVEN 1.01.3 <time>
+ * Syntax file processed by ZELK 2.13 on 01.01.2024 at 12:00.00
+ * ASN.1 module = Tide_Session
+ * FILE = tsespdc.c
+ ****************************************************************/
+
+#ifndef TSESPER_EXT
+#include "tsesper.ext"
+#endif
+
+void pdShown (ASNG_F(ASNPERG *asnperg) Shown *home)
+{
+  home->choice = pd_ChoiceIndex_ua_le255 (1, 1);
+  switch (home->choice){
+    case 0:
+      {
+        pd_sint32_cwn_ua_8 (&home->i1.credit_fld, 0, 255, 8);
+        break;
+      }
+    case 1:
+      {
+        pd_NullType ();
+        break;
+      }
+  }
+}
