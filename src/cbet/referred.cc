@@ -52,8 +52,13 @@ static void funcForReferredTypes(AsnType *, AsnType &comp)
   popPath();
 }
 
+// Synonyms that are entered at this moment: one that was left unbound is a
+// synonym of itself.
+static int synonymNesting;
+
 static void funcForReferredBaseType(AsnType &type)
 {
+  WalkNesting nesting(synonymNesting, type.compModRec);
   if (isSynonymType(type))
     forSynonymType(type, funcForReferredBaseType);
   else if (!glbReferringTypeIsNonVisibleVarnoEntry)

@@ -304,6 +304,28 @@ TEST_F(CGenerate, FunctionsOfThisModule)
   EXPECT_FALSE(own("Alias"));
 }
 
+// --- damage -----------------------------------------------------------------
+
+// It is a synonym of itself, and what it refers to has no end.
+TEST_F(CGenerate, SynonymThatWasLeftUnbound)
+{
+  load("A ::= NULL S ::= SEQUENCE { u U } U ::= A");
+  int32_t record = type("U");
+  readRec(module.rec, REC_TNODE, record);
+  tNode.ref = 0;
+  writeRec(module.rec, REC_TNODE, record);
+  EXPECT_EXIT(generate(), ExitedWithCode(2), "Syntax tree inconsistent");
+}
+
+TEST_F(CGenerate, SynonymsOfSynonyms)
+{
+  std::string text = "T0 ::= SEQUENCE { a NULL } ";
+  for (int i = 1; i < 50; ++i)
+    text += "T" + std::to_string(i) + " ::= T" + std::to_string(i - 1) + " ";
+  load(text);
+  EXPECT_EQ(generate(), 50);
+}
+
 // --- the table --------------------------------------------------------------
 
 TEST(TypeFuncInfo, Cleared)

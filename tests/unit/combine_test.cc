@@ -136,6 +136,15 @@ TEST_F(CombinedGroup, ComparedInThePrefixLength)
   EXPECT_THAT(group("abcde:ghi"), ElementsAre(ghi));
 }
 
+TEST_F(CombinedGroup, NamesAreGenerationPrefixes)
+{
+  setModulePrefixes(*own, "fil", "abc");
+  setModulePrefixes(*def, "ghi", "def");
+  setModulePrefixes(*ghi, "def", "gen");
+  EXPECT_THAT(group("abc:def,gen"), ElementsAre(own, def, ghi));
+  EXPECT_THAT(group("fil:ghi"), ElementsAre());
+}
+
 TEST_F(CombinedGroup, UnknownNamesPassedOver)
 {
   EXPECT_THAT(group("xyz:ghi,uvw"), ElementsAre(ghi));

@@ -1,0 +1,30 @@
+/****************************************************************
+ * Processed by QUORVEN 1.01.3 <time>
+ * Syntax file processed by ZELK 2.13 on 01.01.2024 at 12:00.00
+ * ASN.1 module = Alpha
+ * FILE = alphaper.c
+ ****************************************************************/
+
+#ifndef ALPHAPER_EXT
+#include "alphaper.ext"
+#endif
+
+void peCommon_Type (ASNG_F(ASNPERG *asnperg) Common_Type *home)
+{
+  pe_NullType ();
+}
+
+void peWhole (ASNG_F(ASNPERG *asnperg) Whole *home)
+{
+  peCommon_Type (ASNG_F(asnperg) &home->z_fld);
+}
+
+void pdCommon_Type (ASNG_F(ASNPERG *asnperg) Common_Type *home)
+{
+  pd_NullType ();
+}
+
+void pdWhole (ASNG_F(ASNPERG *asnperg) Whole *home)
+{
+  pdCommon_Type (ASNG_F(asnperg) &home->z_fld);
+}

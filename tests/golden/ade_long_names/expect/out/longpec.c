@@ -1,0 +1,21 @@
+/****************************************************************
+ * Processed by QUORVEN 1.01.3 <time>
+ * Syntax file processed by ZELK 2.13 on 01.01.2024 at 12:00.00
+ * ASN.1 module = Long_Names
+ * FILE = longpec.c
+ ****************************************************************/
+
+#ifndef LONGPER_EXT
+#include "longper.ext"
+#endif
+
+void peA_name_that_leaves_no_room_for_t (ASNG_F(ASNPERG *asnperg) 
+  A_name_that_leaves_no_room_for_t *home)
+{
+  pe_NullType ();
+}
+
+void peShort (ASNG_F(ASNPERG *asnperg) Short *home)
+{
+  pe_NullType ();
+}

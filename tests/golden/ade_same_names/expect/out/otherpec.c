@@ -1,0 +1,15 @@
+/****************************************************************
+ * Processed by QUORVEN 1.01.3 <time>
+ * Syntax file processed by ZELK 2.13 on 01.01.2024 at 12:00.00
+ * ASN.1 module = Other
+ * FILE = otherpec.c
+ ****************************************************************/
+
+#ifndef OTHERPER_EXT
+#include "otherper.ext"
+#endif
+
+void peB (ASNG_F(ASNPERG *asnperg) B *home)
+{
+  pe_NullType ();
+}
