@@ -292,6 +292,16 @@ class IncludeGraph(Scratch):
         self.header("tests/support/h.h", "stx/g.h")
         self.assertEqual((0, ""), self.graph())
 
+    def test_expected_output_is_no_source(self):
+        bad = '#include "nowhere.h"\n'
+        self.header("src/base/a.h")
+        self.write("tests/golden/one/expect/out/x.h", bad)
+        self.write("tests/golden/one/files/x.cc", bad)
+        self.assertEqual((0, ""), self.graph())
+        self.write("tests/goldens.cc", bad)
+        self.assert_fault('tests/goldens.cc:1: #include "nowhere.h":'
+                          " no such file in the project")
+
     def test_higher_layer(self):
         for low, high in (("base", "store"), ("store", "options"),
                           ("options", "model"), ("model", "cbet"),

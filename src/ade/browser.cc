@@ -176,16 +176,26 @@ static void placeAtBaseClass(AsnObjClass &base)
           getClassDefinitionLine(base));
 }
 
+// A predefined class at the end of a chain can't be visited.
+static void placeAtPredefinedClass(const AsnObjClass &objClass)
+{
+  AsnModule *module = newAsnModule(*objClass.baseModRec);
+  placeIn(foreignBase, *module, getClassDefinitionLine(objClass));
+  delAsnModule(module);
+}
+
 AdeBrowserNode *adeBrowserNewClassNode(AsnObjClass &objClass, const char *kind,
                                        const char *extra1, const char *extra2)
 {
   std::string name;
   getObjClassRef(name, nullptr, objClass, nullptr);
   foreignBase = {shown(name), kind, extra1, extra2};
-  // A predefined class can't be visited.
-  if (!isBaseObjClassInCurrentModule(objClass) &&
-      !isPredefinedObjClass(objClass))
-    forObjClassDefinedInAnotherModule(objClass, placeAtBaseClass);
+  if (!isBaseObjClassInCurrentModule(objClass)) {
+    if (isPredefinedObjClass(objClass))
+      placeAtPredefinedClass(objClass);
+    else
+      forObjClassDefinedInAnotherModule(objClass, placeAtBaseClass);
+  }
   if (!foreignBase.node)
     placeIn(foreignBase, *getModuleOfObjClass(objClass),
             getClassDefinitionLine(objClass));

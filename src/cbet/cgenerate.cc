@@ -50,10 +50,8 @@ bool isFuncGeneratedInThisModuleFile(const AsnType &type)
 
 // --- normal functions -------------------------------------------------------
 
-// Code that stands in a function of its own, from prototype to brace.
-static void genSeparateFunction(AsnType &type)
+void cNormalFunction(AsnType &type, TypeFuncInfo &info, TypeFuncCallBack *body)
 {
-  TypeFuncInfo &info = *glbInfo;
   callTypeFunc(info.beforeNormalFunc, type, info);
   endlToF(info.protoFile);
   endlToF(info.implFile);
@@ -62,11 +60,16 @@ static void genSeparateFunction(AsnType &type)
   cFunctionDef(info.implFile, info.normalFuncPrefix, info.gIndex,
                info.normalFuncArgs, type);
   cOpenBrace(info.implFile);
+  body(type, info);
+  cCloseBrace(info.implFile);
+  callTypeFunc(info.afterNormalFunc, type, info);
+}
+
+static void structureBody(AsnType &type, TypeFuncInfo &info)
+{
   printCodeTEDs(type, true, info.tedBefore);
   funcForStructuredTypeAndCompsOrElems(type);
   printCodeTEDs(type, true, info.tedAfter);
-  cCloseBrace(info.implFile);
-  callTypeFunc(info.afterNormalFunc, type, info);
 }
 
 void genNormalFunc(AsnType &type, bool separate)
@@ -88,7 +91,7 @@ void genNormalFunc(AsnType &type, bool separate)
   if (!isSynonym) {
     adeBrowserSelectTypeNode(type);
     if (separate && !isLeaf)
-      genSeparateFunction(type);
+      cNormalFunction(type, *glbInfo, structureBody);
     else
       callTypeFunc(glbInfo->additionalNormalFunc, type, *glbInfo);
     if (separate && cIsIgnorable(type))

@@ -20,6 +20,10 @@ int cGenerateTypeFunctions(AsnModule &module, TypeFuncInfo &info);
 // what the generator adds for it.
 void genNormalFunc(AsnType &type, bool separate);
 
+// Prototype and definition of a separate normal function around what `body`
+// writes.
+void cNormalFunction(AsnType &type, TypeFuncInfo &info, TypeFuncCallBack *body);
+
 // True for a type whose code stands in a function of its own: always, but
 // for structures of VARNO applications.
 bool isSeparateNormalFunction(const AsnType &type);

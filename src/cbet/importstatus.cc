@@ -1,11 +1,12 @@
 // Circles among imports: a table of who imports from whom, and a search along
-// it for each pair. What a module imports from is listed beside its row, so
-// that the search costs what there are imports and not what there are
-// modules.
+// it. Beside its row the modules are listed that a module imports from, and
+// those that import from it, so that a search costs what there are imports; one
+// search serves all pairs that begin with a module.
 
 #include "cbet/importstatus.h"
 #include "base/diag.h"
 #include "store/modrec.h"
+#include <algorithm>
 #include <vector>
 
 int32_t g_moduleCount;
@@ -13,11 +14,14 @@ int32_t g_moduleCount;
 // Bit of the module info cache that holds the answer.
 constexpr int circularBit = 5;
 
-// One row: the module, its status to each module, and to whom it is not 0.
+// One row: the module, its status to each module, to whom it is not 0, and
+// whose status to the module is not 0.
 struct ImportRow {
   ModRec *module = nullptr;
   std::vector<int32_t> status;
   std::vector<int32_t> related;
+  std::vector<int32_t> importers;
+  int32_t circles = 0;  // other modules with `IMPORT_CIRCULAR`
 };
 
 static std::vector<ImportRow> g_importStatusTable;
@@ -41,7 +45,8 @@ void initImportStatusTable()
     g_importStatusTable.push_back(
         {.module = module,
          .status = std::vector<int32_t>(static_cast<size_t>(g_moduleCount)),
-         .related = {}});
+         .related = {},
+         .importers = {}});
 }
 
 void deleteImportStatusTable()
@@ -49,21 +54,30 @@ void deleteImportStatusTable()
   g_importStatusTable.clear();
 }
 
+static ImportRow &rowOf(int32_t row)
+{
+  return g_importStatusTable[static_cast<size_t>(row)];
+}
+
 static int32_t &cell(int32_t row, int32_t column)
 {
   if (row < 0 || row >= g_moduleCount || column < 0 ||
       column >= g_moduleCount ||
-      static_cast<size_t>(row) >= g_importStatusTable.size())
+      static_cast<size_t>(std::max(row, column)) >= g_importStatusTable.size())
     fatalError(FATAL_INTERNAL, "cbet0: Status table index overflow");
-  return g_importStatusTable[static_cast<size_t>(row)]
-      .status[static_cast<size_t>(column)];
+  return rowOf(row).status[static_cast<size_t>(column)];
 }
 
 void setImportStatus(int32_t row, int32_t column, int32_t status)
 {
   int32_t &place = cell(row, column);
-  if (place == IMPORT_NONE && status != IMPORT_NONE)
-    g_importStatusTable[static_cast<size_t>(row)].related.push_back(column);
+  if (place == IMPORT_NONE && status != IMPORT_NONE) {
+    rowOf(row).related.push_back(column);
+    rowOf(column).importers.push_back(row);
+  }
+  if (row != column)
+    rowOf(row).circles +=
+        (status == IMPORT_CIRCULAR) - (place == IMPORT_CIRCULAR);
   place = status;
 }
 
@@ -111,45 +125,46 @@ static void determineDirectModuleImportStatus(AsnModule &module)
 
 // --- circles through others -------------------------------------------------
 
-// True if what `b` imports from leads back to `a`, or into a circle that is
-// known. Each module is looked at once: another visit would tell nothing new.
-static bool searchCircularity(int32_t a, int32_t b)
+// Tells of each module but `a` whether what it imports from leads back to `a`,
+// or into a circle that is known: the search starts there and runs against the
+// imports, to each module once.
+static std::vector<bool> searchCircularity(int32_t a)
 {
-  static std::vector<int32_t> searched;  // by module: the last search
-  static int32_t search;
-  if (++search == 1 || searched.size() != g_importStatusTable.size()) {
-    search = 1;
-    searched.assign(g_importStatusTable.size(), 0);
-  }
-  std::vector<int32_t> waiting = {b};
-  searched[static_cast<size_t>(b)] = search;
+  std::vector<bool> isFound(g_importStatusTable.size());
+  std::vector<int32_t> waiting;
+  auto add = [&](int32_t at) {
+    if (at == a || isFound[static_cast<size_t>(at)])
+      return;
+    isFound[static_cast<size_t>(at)] = true;
+    waiting.push_back(at);
+  };
+  for (int32_t at = 0; at < g_moduleCount; ++at)
+    if (getImportStatus(at, a) != IMPORT_NONE || rowOf(at).circles > 0)
+      add(at);
   while (!waiting.empty()) {
     int32_t at = waiting.back();
     waiting.pop_back();
-    if (getImportStatus(at, a) != IMPORT_NONE)
-      return true;
-    for (int32_t k : g_importStatusTable[static_cast<size_t>(at)].related) {
-      int32_t status = getImportStatus(at, k);
-      if (k != at && status == IMPORT_CIRCULAR)
-        return true;
-      bool isNew = searched[static_cast<size_t>(k)] != search;
-      if (status != IMPORT_ONE_WAY || k == a || !isNew)
-        continue;
-      searched[static_cast<size_t>(k)] = search;
-      waiting.push_back(k);
-    }
+    for (int32_t importer : rowOf(at).importers)
+      if (getImportStatus(importer, at) == IMPORT_ONE_WAY)
+        add(importer);
   }
-  return false;
+  return isFound;
 }
 
-// A circle that is found counts for the pairs that follow.
+// A circle that is found counts for the modules that follow. For the pairs of
+// the same module it makes no difference: no search looks at the row of the
+// module that it is for.
 static void determineIndirectModuleImportStatus()
 {
-  for (int32_t i = 0; i < g_moduleCount; ++i)
-    for (int32_t j : g_importStatusTable[static_cast<size_t>(i)].related)
+  for (int32_t i = 0; i < g_moduleCount; ++i) {
+    if (rowOf(i).related.empty())
+      continue;
+    std::vector<bool> isFound = searchCircularity(i);
+    for (int32_t j : rowOf(i).related)
       if (i != j && getImportStatus(i, j) == IMPORT_ONE_WAY &&
-          searchCircularity(i, j))
+          isFound[static_cast<size_t>(j)])
         setImportStatus(i, j, IMPORT_CIRCULAR);
+  }
 }
 
 static void initImportStatus()

@@ -10,6 +10,7 @@
 #include "store/typenode.h"
 #include "store/valuenode.h"
 #include <set>
+#include <unordered_map>
 #include <utility>
 
 template <class F>
@@ -102,6 +103,52 @@ static void callForField(FieldCallBacks &calls, AsnObject &object,
     calls.optionalCb(object, fieldValue, calls.optionalIndex++, fieldNr);
 }
 
+// Calls for the current field, which the current value is for, and steps on to
+// the next value.
+static void visitGivenValue(FieldWalk &walk, FieldCallBacks &calls)
+{
+  AsnObjClassField field;
+  AsnObjectFieldValue fieldValue;
+  initFieldViews(walk, field, fieldValue);
+  callForField(calls, walk.object, fieldValue);
+  walk.value = valueBehind(walk);
+}
+
+// Numbers of the fields of the class, by their records.
+typedef std::unordered_map<int32_t, int32_t> FieldNumbers;
+
+static FieldNumbers numberFields(const FieldWalk &walk)
+{
+  FieldNumbers numbers;
+  ChainGuard guard(walk.classModule, REC_TNODE);
+  for (int32_t next = walk.firstField; next != 0; next = tNode.next) {
+    guard.step();
+    readRec(walk.classModule, REC_TNODE, next);
+    numbers.emplace(next, static_cast<int32_t>(numbers.size()));
+  }
+  return numbers;
+}
+
+// The values that are left when the fields have run out and begin again. Their
+// fields are looked up: a turn for each value would take the square of the
+// number of fields.
+static void forEachValueOutOfOrder(FieldWalk &walk, ChainGuard &guard,
+                                   FieldCallBacks &calls)
+{
+  ModRec *module = walk.object.baseModRec;
+  FieldNumbers numbers = numberFields(walk);
+  while (walk.value != 0) {
+    guard.step();
+    readRec(module, REC_VNODE, walk.value);
+    auto found = numbers.find(vNode.governor);
+    if (found == numbers.end() || !isValueOfField(walk, found->first))
+      treeInconsistent(module);
+    readRec(walk.classModule, REC_TNODE, found->first);
+    walk.fieldNr = found->second;
+    visitGivenValue(walk, calls);
+  }
+}
+
 // The values that the object gives, in the order of the fields as long as
 // they have it; one for no field at all means that the tree is damaged.
 static void forEachGivenValue(AsnObject &object, FieldCallBacks &calls)
@@ -109,29 +156,15 @@ static void forEachGivenValue(AsnObject &object, FieldCallBacks &calls)
   FieldWalk walk(object);
   ChainGuard guard(object.baseModRec, REC_VNODE);
   ChainGuard fieldGuard(walk.classModule, REC_TNODE);
-  bool hasTurned = false;
-  while (walk.value != 0) {
-    if (walk.nextField == 0) {
-      if (hasTurned || walk.firstField == 0)
-        treeInconsistent(object.baseModRec);
-      hasTurned = true;
-      walk.nextField = walk.firstField;
-      walk.fieldNr = 0;
-      fieldGuard = ChainGuard(walk.classModule, REC_TNODE);
-    }
+  for (; walk.value != 0 && walk.nextField != 0; ++walk.fieldNr) {
     fieldGuard.step();
-    int32_t record = readNextField(walk);
-    if (isValueOfField(walk, record)) {
-      guard.step();
-      hasTurned = false;
-      AsnObjClassField field;
-      AsnObjectFieldValue fieldValue;
-      initFieldViews(walk, field, fieldValue);
-      callForField(calls, object, fieldValue);
-      walk.value = valueBehind(walk);
-    }
-    ++walk.fieldNr;
+    if (!isValueOfField(walk, readNextField(walk)))
+      continue;
+    guard.step();
+    visitGivenValue(walk, calls);
   }
+  if (walk.value != 0)
+    forEachValueOutOfOrder(walk, guard, calls);
 }
 
 static void forEachGivenOrDefaultValue(AsnObject &object, FieldCallBacks &calls)

@@ -9,7 +9,7 @@
 // constraints and bounds.
 
 struct ObjChainRules {
-  int definitionFix;        // kind of a definition's names
+  int definitionFix;        // kind of the base's names
   void (*skipFieldList)();  // from a field list node to what it names
   bool refusesSelections;   // fatal error 13; otherwise the chain ends there
 };

@@ -59,7 +59,7 @@ static void skipObjSetFieldList()
 }
 
 static const ObjChainRules setRules = {
-    .definitionFix = FIX_OBJECT_SET,
+    .definitionFix = FIX_CLASS,
     .skipFieldList = skipObjSetFieldList,
     .refusesSelections = false,
 };

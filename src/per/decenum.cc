@@ -5,6 +5,7 @@
 
 #include "base/diag.h"
 #include "cbet/cfunction.h"
+#include "cbet/cgenerate.h"
 #include "cbet/cnames.h"
 #include "cbet/cvars.h"
 #include "cbet/outfile.h"
@@ -403,17 +404,12 @@ void decEnum(AsnType &type, TypeFuncInfo &info)
     decEnumContents(type, false);
 }
 
+static void enumBody(AsnType &type, TypeFuncInfo &)
+{
+  decEnumContents(type, false);
+}
+
 void decEnumNormalFunc(AsnType &type, TypeFuncInfo &info)
 {
-  callTypeFunc(info.beforeNormalFunc, type, info);
-  endlToF(info.protoFile);
-  endlToF(info.implFile);
-  cFunctionProto(info.protoFile, info.normalFuncPrefix, info.gIndex,
-                 info.normalFuncArgs, type);
-  cFunctionDef(info.implFile, info.normalFuncPrefix, info.gIndex,
-               info.normalFuncArgs, type);
-  cOpenBrace(info.implFile);
-  decEnumContents(type, false);
-  cCloseBrace(info.implFile);
-  callTypeFunc(info.afterNormalFunc, type, info);
+  cNormalFunction(type, info, enumBody);
 }

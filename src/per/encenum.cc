@@ -7,6 +7,7 @@
 
 #include "base/diag.h"
 #include "cbet/cfunction.h"
+#include "cbet/cgenerate.h"
 #include "cbet/cnames.h"
 #include "cbet/cvars.h"
 #include "cbet/outfile.h"
@@ -366,17 +367,12 @@ void encEnum(AsnType &type, TypeFuncInfo &info)
     forSortedEnumeratedValueArray(type, genContentsForEncEnumNormalFunc);
 }
 
+static void enumBody(AsnType &type, TypeFuncInfo &)
+{
+  forSortedEnumeratedValueArray(type, genContentsForEncEnumNormalFunc);
+}
+
 void encEnumNormalFunc(AsnType &type, TypeFuncInfo &info)
 {
-  callTypeFunc(info.beforeNormalFunc, type, info);
-  endlToF(info.protoFile);
-  endlToF(info.implFile);
-  cFunctionProto(info.protoFile, info.normalFuncPrefix, info.gIndex,
-                 info.normalFuncArgs, type);
-  cFunctionDef(info.implFile, info.normalFuncPrefix, info.gIndex,
-               info.normalFuncArgs, type);
-  cOpenBrace(info.implFile);
-  forSortedEnumeratedValueArray(type, genContentsForEncEnumNormalFunc);
-  cCloseBrace(info.implFile);
-  callTypeFunc(info.afterNormalFunc, type, info);
+  cNormalFunction(type, info, enumBody);
 }

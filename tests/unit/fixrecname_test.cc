@@ -129,6 +129,8 @@ TEST(CompareFixRec, Outputs)
             0);
   EXPECT_NE(compareFixRec(fixRec("x", 9, "abc"), fixRec("x", 9, "ABC")), 0);
   EXPECT_NE(compareFixRec(fixRec("abc", 3), fixRec("x", 9, "abd")), 0);
+  // The lengths themselves differ, if not what they leave of the id.
+  EXPECT_NE(compareFixRec(fixRec("abc", 3), fixRec("abc", 5)), 0);
   // With a name on one side only, the other's id is not looked at.
   EXPECT_NE(compareFixRec(fixRec("abc", 3), fixRec("x", 9, "abc")), 0);
   EXPECT_NE(compareFixRec(fixRec("x", 9, "abc"), fixRec("abc", 3, "")), 0);

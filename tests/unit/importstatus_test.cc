@@ -114,6 +114,45 @@ TEST_F(ImportStatusTest, Many)
   EXPECT_TRUE(circular("m299"));
 }
 
+// Each imports from the 40 that follow, and the last two from each other: all
+// lead into the circle of the two. Without it there is none.
+TEST_F(ImportStatusTest, ManyImports)
+{
+  constexpr int count = 600;
+  std::map<std::string, std::vector<std::string>> modules;
+  for (int i = 0; i < count; ++i) {
+    std::vector<std::string> &imports = modules[formatText("m%03d", i)];
+    for (int k = i + 1; k <= i + 40 && k < count; ++k)
+      imports.push_back(formatText("m%03d", k));
+  }
+  load(modules);
+  for (const char *prefix : {"m000", "m300", "m599"})
+    EXPECT_FALSE(circular(prefix)) << prefix;
+}
+
+TEST_F(ImportStatusTest, ManyImportsIntoACircle)
+{
+  constexpr int count = 300;
+  std::map<std::string, std::vector<std::string>> modules;
+  for (int i = 0; i < count; ++i) {
+    std::vector<std::string> &imports = modules[formatText("m%03d", i)];
+    for (int k = i + 1; k <= i + 40 && k < count; ++k)
+      imports.push_back(formatText("m%03d", k));
+  }
+  modules["m299"] = {"m298"};
+  load(modules);
+  for (const char *prefix : {"m000", "m150", "m298", "m299"})
+    EXPECT_TRUE(circular(prefix)) << prefix;
+}
+
+// Two ways to one module are no circle.
+TEST_F(ImportStatusTest, Diamond)
+{
+  load({{"a", {"b", "c"}}, {"b", {"d"}}, {"c", {"d"}}, {"d", {}}});
+  for (const char *prefix : {"a", "b", "c", "d"})
+    EXPECT_FALSE(circular(prefix)) << prefix;
+}
+
 TEST_F(ImportStatusTest, Access)
 {
   load({{"a", {"b"}}, {"b", {}}});

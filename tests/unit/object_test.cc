@@ -337,6 +337,50 @@ TEST_F(ObjViews, ValuesInAnotherOrderThanTheFields)
             "0code- 1Arg- 2Res? 3def- 4Vals- 5linked- 6Errors- 7prio ");
 }
 
+TEST_F(ObjViews, ManyValuesInReverseOrder)
+{
+  constexpr int count = 5000;
+  std::string fields, values;
+  for (int i = 0; i < count; ++i) {
+    const char *separator = i == 0 ? "" : ", ";
+    fields += separator + ("&f" + numberOf(i)) + " INTEGER";
+    values += separator + ("&f" + numberOf(i)) + " 1";
+  }
+  load("C ::= CLASS {" + fields + "}\nc C ::= {" + values + "}");
+  int32_t before = 0;
+  for (int32_t child : childrenOf(tree(), value("c"))) {
+    valueNode(child).next = before;
+    before = child;
+  }
+  valueNode(value("c")).firstChild = before;
+  loadCompiled();
+  static int expected;
+  expected = count;
+  forEachObjectFieldValue(
+      object("c"), [](AsnObject &, AsnObjectFieldValue &at, int fieldNr) {
+        --expected;
+        EXPECT_EQ(fieldNr, expected);
+        EXPECT_EQ(nameOf(at.field->fix), "f" + numberOf(expected));
+      });
+  EXPECT_EQ(expected, 0);
+}
+
+// The class is begun again for a value of the right number in a module that is
+// not the class's, and in vain.
+TEST_F(ObjDeath, ValueForAFieldOfAnotherModule)
+{
+  loadModules("M DEFINITIONS AUTOMATIC TAGS ::= BEGIN\n"
+              "IMPORTS T FROM N;\n"
+              "C ::= CLASS { &i INTEGER, &T }\nc C ::= {&i 2, &T T}\nEND\n"
+              "N DEFINITIONS AUTOMATIC TAGS ::= BEGIN\nT ::= NULL\nEND\n");
+  EXPECT_EQ(walked(forEachObjectFieldValue, "c"), "0i 1T ");
+  valueNode(setting("c", "T")).governorModule = 2;
+  loadCompiled();
+  AsnObject &c = object("c");
+  EXPECT_EXIT(forEachObjectFieldValue(c, note), ExitedWithCode(2),
+              "Syntax tree inconsistent\n");
+}
+
 TEST_F(ObjDeath, ValueForNoFieldOfTheClass)
 {
   valueNode(setting("q", "Arg")).governor = fieldNode("ERR", "Par");

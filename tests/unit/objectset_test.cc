@@ -154,19 +154,20 @@ TEST_F(ObjSetViews, PathsAndQueries)
 TEST_F(ObjSetViews, Names)
 {
   stxGlobalOption(tree(), TED_FRONT_END, "-OSPREF=s_");
+  stxGlobalOption(tree(), TED_FRONT_END, "-CLPREF=c_");
   stxGlobalOption(tree(), TED_FRONT_END, "-FSUFF=_f");
-  // A field is no definition, and so is what it refers to then.
+  // A field is no definition. The base is a class, and is called as one.
   node(type("S4")).compStatus = TCS_MANDATORY;
   loadCompiled();
   AsnObjectSet &set = objectSet("S1");
   EXPECT_EQ(textOf(getObjectSetRef, set), "S1");
   EXPECT_EQ(textOf(getDefObjectSetId, set), "s_S1");
   EXPECT_EQ(textOf(getBaseObjectSetRef, set), "C");
-  EXPECT_EQ(textOf(getDefBaseObjectSetId, set), "s_C");
+  EXPECT_EQ(textOf(getDefBaseObjectSetId, set), "c_C");
   EXPECT_EQ(textOf(getBaseObjectSetRef, objectSet("S5")), "TYPE-IDENTIFIER");
   AsnObjectSet &field = objectSet("S4");
   EXPECT_EQ(printedOf(field.compFix), "S4_f");
-  EXPECT_EQ(textOf(getDefObjectSetId, field), "s_C");
+  EXPECT_EQ(textOf(getDefObjectSetId, field), "c_C");
   node(type("C")).compStatus = TCS_MANDATORY;
   loadCompiled();
   EXPECT_EQ(textOf(getDefObjectSetId, objectSet("S4")), "?!?");

@@ -93,6 +93,39 @@ TEST_F(PerPath, Elements)
       false);
 }
 
+// A line may break ahead of what is pushed, but not ahead of a literal; the
+// end of a call belongs to its argument, except in functions of elements.
+TEST_F(PerPath, Cuts)
+{
+  int32_t seq = define("T", TYP_SEQ);
+  comp(seq, "a-b", TYP_BOOLEAN);
+  int32_t list = define("L", node(TYP_SEQOF, VF_LIST, {optHomeElems}));
+  elem(list, stxNewTNode(TYP_BOOLEAN, VF_BOOL));
+  load(true);
+  TestType view(module, seq), linked(module, list);
+  atComp(*view, 0, [&](AsnType &a) {
+    EXPECT_EQ(pieces([&] { perPushPath(a, info); }),
+              "pp_pushPath (ASNG_F(asnperg) \"a_b_fld\");");
+    EXPECT_EQ(pieces([&] { perPopPath(a, info); }),
+              "pp_popPath (ASNG_F(asnperg) 8);");
+  });
+  EXPECT_EQ(pieces([&] { perEntryPushPath(*view, info); }),
+            "pp_pushPath (ASNG_F(asnperg) \"T\");");
+  atComp(
+      *linked, 0,
+      [&](AsnType &elem) {
+        auto push = [&] { perPushElem(elem, info); };
+        auto pushInCallBack = [&] { perPushElemInCallBack(elem, info); };
+        EXPECT_EQ(pieces(push),
+                  "pp_pushElem (ASNG_F(asnperg)|listLen (home));");
+        EXPECT_EQ(pieces(pushInCallBack),
+                  "pp_pushElem (ASNG_F(asnperg) |listLen (home));");
+        EXPECT_FALSE(endsApart(push));
+        EXPECT_TRUE(endsApart(pushInCallBack));
+      },
+      false);
+}
+
 TEST_F(PerPath, Entries)
 {
   int32_t seq = define("My-Type", TYP_SEQ);
