@@ -8,6 +8,7 @@
 #include "model/number.h"
 #include "model/restrstring.h"
 #include "model/typeiter.h"
+#include "model/valuechain.h"
 #include "options/fixrec.h"
 #include "store/valuenode.h"
 
@@ -110,55 +111,20 @@ static bool setGovernor(AsnValue &value, int32_t moduleIndex, int32_t recNr)
 
 // --- the chain --------------------------------------------------------------
 
-static void getValueSpecificBEOpts(AsnValue &value, bool first)
-{
-  if (!value.metaRec || vNode.firstTed == 0)
-    return;
-  ModRec *module = currTPtr[REC_VNODE];
-  int32_t last = vNode.lastTed;
-  for (int32_t i = vNode.firstTed; i <= last; ++i) {
-    readRec(module, REC_TED, i);
-    if (tedRec.tedKind != TED_BACK_END)
-      continue;
-    const char *text = getStri(module, tedRec.text);
-    if (!parseBECommentOption(text))
-      valueBEOptionOK(value, *value.metaRec, text);
-    else if (first)
-      value.commentOptions = true;
-  }
-}
-
 static void applyBEOptions(AsnValue &value)
 {
-  readRec(value.compModRec, REC_VNODE, value.compRecNr);
-  bool first = true;
-  ChainGuard guard(value.compModRec, REC_VNODE);
-  do {
-    guard.step();
-    getValueSpecificBEOpts(value, first);
-    first = false;
-  } while (skipOneValue(true));
-}
-
-// Goes to the end of the current value's chain; gives the flags of its
-// references.
-static uint8_t skipChain()
-{
-  uint8_t flags = 0;
-  ChainGuard guard(currTPtr[REC_VNODE], REC_VNODE);
-  for (;; guard.step()) {
-    bool isReference = vNode.mainType == TYP_SYNONYM;
-    uint8_t ownFlags = vNode.valueFlags;
-    if (!skipOneValue(true))
-      return flags;
-    if (isReference)
-      flags |= ownFlags;
-  }
+  bool hasComments = forEachValueChainOption(
+      value.compModRec, value.compRecNr, [&](const char *text) {
+        if (value.metaRec)
+          valueBEOptionOK(value, *value.metaRec, text);
+      });
+  if (value.metaRec)
+    value.commentOptions = hasComments;
 }
 
 static void initBase(AsnValue &value, int fixKind)
 {
-  uint8_t chainFlags = skipChain();
+  uint8_t chainFlags = skipValueChain();
   value.baseModRec = currTPtr[REC_VNODE];
   value.baseRecNr = recJustRead[REC_VNODE].index;
   if (value.baseModRec == value.compModRec &&

@@ -7,6 +7,7 @@
 #include "base/strings.h"
 #include "model/asnvalue.h"
 #include "model/objchain.h"
+#include "model/valuechain.h"
 #include "store/valuenode.h"
 
 static CacheBlock *cache__AsnObject;
@@ -51,53 +52,17 @@ void delAsnObject(AsnObject *object)
 
 // --- construction -----------------------------------------------------------
 
-static void getObjectSpecificBEOpts(AsnObject &object, bool first)
-{
-  if (vNode.firstTed == 0)
-    return;
-  ModRec *module = currTPtr[REC_VNODE];
-  int32_t last = vNode.lastTed;
-  for (int32_t i = vNode.firstTed; i <= last; ++i) {
-    readRec(module, REC_TED, i);
-    if (tedRec.tedKind != TED_BACK_END)
-      continue;
-    const char *text = getStri(module, tedRec.text);
-    if (!parseBECommentOption(text))
-      objectBEOptionOK(object, *object.metaRec, text);
-    else if (first)
-      object.commentOptions = true;
-  }
-}
-
 static void applyBEOptions(AsnObject &object)
 {
-  readRec(object.compModRec, REC_VNODE, object.compRecNr);
-  bool first = true;
-  ChainGuard guard(object.compModRec, REC_VNODE);
-  do {
-    guard.step();
-    getObjectSpecificBEOpts(object, first);
-    first = false;
-  } while (skipOneValue(true));
-}
-
-// Goes to the end of the current chain; gives the flags of its references.
-static uint8_t skipChain()
-{
-  uint8_t flags = 0;
-  ChainGuard guard(currTPtr[REC_VNODE], REC_VNODE);
-  for (;; guard.step()) {
-    uint8_t ownFlags =
-        vNode.mainType == TYP_SYNONYM ? vNode.valueFlags : uint8_t{0};
-    if (!skipOneValue(true))
-      return flags;
-    flags |= ownFlags;
-  }
+  object.commentOptions = forEachValueChainOption(
+      object.compModRec, object.compRecNr, [&](const char *text) {
+        objectBEOptionOK(object, *object.metaRec, text);
+      });
 }
 
 static void initBase(AsnObject &object, int fixKind)
 {
-  uint8_t chainFlags = skipChain();
+  uint8_t chainFlags = skipValueChain();
   object.baseModRec = currTPtr[REC_VNODE];
   object.baseRecNr = recJustRead[REC_VNODE].index;
   if (object.baseModRec == object.compModRec &&
