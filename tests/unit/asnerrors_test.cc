@@ -102,6 +102,29 @@ TEST(AsnLimit, ArcsOfAnIdentifier)
             "2:25: \"{\" has too many arcs");
 }
 
+TEST(AsnSyntax, VersionBracketsHoldAdditions)
+{
+  EXPECT_TRUE(compileBody("A ::= SEQUENCE { a NULL, ..., [[ b NULL ]] }").good);
+  EXPECT_TRUE(compileBody("A ::= CHOICE { a NULL, ..., [[ b NULL ]] }").good);
+  EXPECT_EQ(errorOf("A ::= SEQUENCE { a NULL, [[ b NULL ]] }"),
+            "2:26: \"[[\" outside the extension additions");
+  EXPECT_EQ(errorOf("A ::= CHOICE { [[ b NULL ]], ... }"),
+            "2:16: \"[[\" outside the extension additions");
+  EXPECT_EQ(errorOf("A ::= SEQUENCE { ..., ..., [[ b NULL ]] }"),
+            "2:28: \"[[\" outside the extension additions");
+}
+
+TEST(AsnLimit, TypesWithinTypes)
+{
+  auto nested = [](int depth) {
+    return "A ::= " + repeated("SEQUENCE OF ", depth) + "NULL";
+  };
+  EXPECT_TRUE(compileBody(nested(50)).good);
+  std::string error = errorOf(nested(5000));
+  EXPECT_NE(error.find("nested too deeply at \"SEQUENCE\""), std::string::npos)
+      << error;
+}
+
 TEST(AsnLimit, ObjectsWithinObjects)
 {
   auto nested = [](int depth) {

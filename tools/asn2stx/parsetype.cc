@@ -257,14 +257,22 @@ static void parseGroup(Parser &parser, AstComp &group, bool isChoice)
   expectSign(parser, ']');
 }
 
+// Version brackets hold additions, which lie between the two markers.
 static void parseComps(Parser &parser, AstType &type)
 {
   AstNotes *outer = parser.owner;
+  bool isChoice = type.kind == AT_CHOICE;
+  int markers = 0;
   expectSign(parser, '{');
-  if (!atSign(parser, '}') || type.kind == AT_CHOICE)
-    do
-      type.comps.push_back(parseComp(parser, type.kind == AT_CHOICE, false));
-    while (acceptSign(parser, ','));
+  if (!atSign(parser, '}') || isChoice)
+    do {
+      AstComp *comp = parseComp(parser, isChoice, false);
+      if (comp->kind == AC_MARKER)
+        ++markers;
+      else if (comp->kind == AC_GROUP && markers != 1)
+        failAt(parser, comp->pos, "\"[[\" outside the extension additions");
+      type.comps.push_back(comp);
+    } while (acceptSign(parser, ','));
   setOwner(parser, outer);
   expectSign(parser, '}');
 }
