@@ -77,6 +77,7 @@ void genNormalFunc(AsnType &type, bool separate)
   // Each type that is found on the way down is one level deeper.
   static int depth;
   NestingGuard guard(depth, type.baseModRec);
+  InlineRestart restart;
   if (!isFuncGeneratedInThisModuleFile(type))
     return;
   bool isSynonym = isSynonymType(type);

@@ -140,6 +140,7 @@ void skipType(AsnType &type)
 
 static void genIgnoreTraverseFunc(AsnType &type)
 {
+  InlineRestart restart;
   TypeFuncInfo &info = *glbInfo;
   const IgnoreFuncs &funcs = info.ignoreFuncs;
   if (funcs.canGenerateIgnoreFunc && !funcs.canGenerateIgnoreFunc(type, info))

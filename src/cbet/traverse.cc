@@ -74,6 +74,18 @@ InlineNesting::~InlineNesting()
   innermostInline = outer;
 }
 
+InlineRestart::InlineRestart()
+    : outer(innermostInline), visited(inlineTypesVisited)
+{
+  innermostInline = nullptr;
+}
+
+InlineRestart::~InlineRestart()
+{
+  innermostInline = outer;
+  inlineTypesVisited = visited;
+}
+
 // --- small tests ------------------------------------------------------------
 
 static bool isSequence(const AsnType &type)

@@ -67,3 +67,15 @@ struct InlineNesting {
   int64_t depth;
   InlineNesting *outer;
 };
+
+// A function of its own begins: what stands in line in it is counted afresh,
+// though the types around the place where it was found are still entered.
+struct InlineRestart {
+  InlineRestart();
+  ~InlineRestart();
+  InlineRestart(const InlineRestart &) = delete;
+  InlineRestart &operator=(const InlineRestart &) = delete;
+
+  InlineNesting *outer;
+  int64_t visited;
+};

@@ -67,8 +67,8 @@ struct TypeFuncInfo {
   int protoFile = 0;       // prototypes
   int auxFile = 0;         // not read
   uint32_t entryOptionBit = 0;
-  int32_t tedBefore = -1;  // places of embedding lines; -1: none
-  int32_t tedAfter = -1;
+  int32_t tedBefore = 0;  // places of embedding lines; -1: none
+  int32_t tedAfter = 0;
   int32_t genKind = GEN_CONSTRUCT_CHECKED;
 
   // In the order of the walk.

@@ -14,6 +14,7 @@
 #include "per/dec.h"
 #include "per/perenum.h"
 #include "per/perint.h"
+#include "per/variant.h"
 
 // Sorted numbers of the root or of the additions.
 struct DecItems {
@@ -105,7 +106,7 @@ static void genEnumExtRootRTSFunc(const AsnType &type, int count, bool useIndex,
                                   bool extended)
 {
   int size = perEnumIndexFunctionToF(fiDec, "pd_", count);
-  if (!extended)
+  if (!extended && encodingVariant2Index(perGetEncodingVariant()) >= 0)
     wToF(fiDec, decConstrainedWholeNumberSuff(type, INT_CONSTRAINED));
   if (useIndex)
     wToF(fiDec, " (&index, ");

@@ -73,9 +73,9 @@ static std::string countText(AsnType &list, const std::string &length)
   sint64 lower, upper, limit;
   getInt64SizeEndpoints(list, lower, upper, limit);
   if (i64cmp(upper, limit) == 0)
-    return " " + length;
+    return length;
   std::string most = i64text(limit);
-  return " ((" + length + " < " + most + ")? " + length + " : " + most + ")";
+  return "((" + length + " < " + most + ")? " + length + " : " + most + ")";
 }
 
 static void decSeqOfAllocDynArrElemsInOneFrag(AsnType &list, AsnType &elem)
@@ -93,6 +93,8 @@ static void decSeqOfAllocDynArrElemsInOneFrag(AsnType &list, AsnType &elem)
   wToF(fiDec,
        cGetHome(text, nullptr, elem, glbDecTypeFuncInfo->gIndex, ",").c_str());
   wToF(fiDec, " MB_STG,");
+  // A text of its own: where the line breaks, the blank stays behind.
+  wToF(fiDec, " ");
   wToF(fiDec, countText(list, length).c_str());
   wToF(fiDec, " *");
   wToF(fiDec, storageText(text, " sizeof (", elem, "));\n").c_str());

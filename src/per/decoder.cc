@@ -82,6 +82,8 @@ static void decEntryPostfix(AsnType &, TypeFuncInfo &)
 static const TypeFuncInfo decFuncs = {
     .funcFamily = 11,
     .entryOptionBit = 3,
+    .tedBefore = -1,
+    .tedAfter = -1,
     .genKind = GEN_CONSTRUCT,
     .additionalNormalFunc = decAdditionalNormalFunc,
     .beforeNormalFunc = decBeforeNormalFunc,

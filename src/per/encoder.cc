@@ -53,6 +53,8 @@ static void encEntryPostfix(AsnType &type, TypeFuncInfo &)
 static const TypeFuncInfo encFuncs = {
     .funcFamily = 5,
     .entryOptionBit = 2,
+    .tedBefore = -1,
+    .tedAfter = -1,
     .genKind = GEN_TRAVERSE_FREE,
     .additionalNormalFunc = encAdditionalNormalFunc,
     .beforeNormalFunc = encBeforeNormalFunc,

@@ -209,13 +209,13 @@ static std::string *extensibleEnumFuncName(std::string &text,
     forEachNamedNumberExtMark(type, findAdditionLowerBound);
   else
     forTypeDefinedInAnotherModule(type, findAdditionLowerBoundInAnotherModule);
+  addLower = enumWalk.addLower;
   std::string name;
   if (!perInteger32FunctionName(name, nullptr, type, nullptr, kind, lower,
                                 upper, bits))
     return nullptr;
   lower = enumWalk.lower;
   upper = enumWalk.upper;
-  addLower = enumWalk.addLower;
   bits = perBitsInInteger32BitField(lower, upper);
   text = orEmpty(prefix);
   text += "XEnum";

@@ -262,6 +262,7 @@ static void fillTable(TypeFuncInfo &info)
   info.implFile = fiTrace;
   info.protoFile = fiTraceE;
   info.genKind = GEN_TRAVERSE_FREE;
+  info.tedBefore = info.tedAfter = -1;
   info.entryOptionBit = 2;
   info.gIndex = 4;
   info.pushPathEnabled = true;

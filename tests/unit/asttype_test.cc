@@ -231,7 +231,7 @@ TEST(AsnType, Lists)
 
 TEST(AsnType, Places)
 {
-  AstRun run("A ::= [1]\n SEQUENCE {\n  a Mod.B,\n  [[2: b C]] }");
+  AstRun run("A ::= [1]\n SEQUENCE {\n  a Mod.B, ...,\n  [[2: b C]] }");
   const AstType &type = *run.assign(0).type;
   EXPECT_EQ(type.pos.line, 2);
   EXPECT_EQ(type.pos.column, 7);
@@ -239,7 +239,7 @@ TEST(AsnType, Places)
   EXPECT_EQ(type.comps.at(0)->pos.line, 4);
   EXPECT_EQ(type.comps.at(0)->pos.column, 3);
   EXPECT_EQ(type.comps.at(0)->type->ref.pos.column, 5);
-  EXPECT_EQ(type.comps.at(1)->members.at(0)->pos.column, 8);
+  EXPECT_EQ(type.comps.at(2)->members.at(0)->pos.column, 8);
   EXPECT_EQ(&run.ast.types.at(static_cast<size_t>(type.id)), &type);
 }
 

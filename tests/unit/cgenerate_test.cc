@@ -328,6 +328,28 @@ TEST_F(CGenerate, SynonymsOfSynonyms)
 
 // --- the table --------------------------------------------------------------
 
+// The base is found again from inside itself; its inline types are entered
+// for the search of the alias and for the function of the base.
+TEST_F(CGenerate, InlineTypesOfEachFunctionCountAfresh)
+{
+  for (const char *mark : {"", " --$ recursive\n"}) {
+    seen.clear();
+    load(std::string("A ::= T --$ entry\nT ::= SEQUENCE { a SEQUENCE {") +
+         mark +
+         " b SEQUENCE { c SEQUENCE { d SEQUENCE "
+         "{ e T OPTIONAL } } } } }");
+    varno();
+    module.rec->options.generate = 1;
+    info.beforeNormalFunc =
+        info.beforeEntryFunc = [](AsnType &t, TypeFuncInfo &) {
+          std::string name;
+          seen += getDefTypeId(name, nullptr, t, " ");
+        };
+    EXPECT_EQ(generate(), 1);
+    EXPECT_EQ(seen, "T A ");
+  }
+}
+
 TEST(TypeFuncInfo, Cleared)
 {
   TypeFuncInfo table;
@@ -340,7 +362,11 @@ TEST(TypeFuncInfo, Cleared)
   table.setChoiceControlMember = false;
   table.reverseOrder = table.pushPathEnabled = table.markerOnTraverse = true;
   table.duplicateCompError = "X";
+  table.tedBefore = 3;
+  table.tedAfter = 8;
   cInitTypeFuncInfo(table);
+  EXPECT_EQ(table.tedBefore, 0);
+  EXPECT_EQ(table.tedAfter, 0);
   EXPECT_TRUE(table.setChoiceControlMember);
   EXPECT_EQ(table.funcFamily, 0);
   EXPECT_EQ(table.genKind, GEN_CONSTRUCT_CHECKED);

@@ -399,7 +399,7 @@ TEST_F(DecoderPieces, DynamicArray)
   EXPECT_EQ(prefixOfList("--$ dynamicarray -- ::= "
                          "SEQUENCE (SIZE (1..10)) OF BOOLEAN"),
             "uint32 len_0;|pd_lenDet_al_clt64K_le255 (&len_0, 1, 10, 4);|"
-            "if (len_0 > 0){|home->elem =|(BOOLE *)|allocAsn (|NULL,|MB_STG,|"
+            "if (len_0 > 0){|home->elem =|(BOOLE *)|allocAsn (|NULL,|MB_STG, |"
             "len_0 *|sizeof (BOOLE));|if (|home->elem == NULL){|"
             "reportFatalError (LACK_OF_MEMORY);|}|}");
 }
@@ -410,7 +410,7 @@ TEST_F(DecoderPieces, LimitedDynamicArray)
                          "SEQUENCE (SIZE (1..10)) OF --$ asnhome -- BOOLEAN"),
             "uint32 len_0;|pd_lenDet_al_clt64K_le255 (&len_0, 1, 10, 4);|"
             "if (len_0 > 0){|home->elem =|(ASNHOME **)|allocAsn (|NULL,|"
-            "MB_STG,|((len_0 < 4)? len_0 : 4) *|sizeof (ASNHOME *));|"
+            "MB_STG, |((len_0 < 4)? len_0 : 4) *|sizeof (ASNHOME *));|"
             "if (|home->elem == NULL){|"
             "reportFatalError (LACK_OF_MEMORY);|}|}");
 }

@@ -275,4 +275,26 @@ TEST_F(ExtInfoTree, BitsOfAdditions)
   EXPECT_EQ(seen, "2 1 0 ");
 }
 
+// Such a group is in damaged trees only: it counts as a component of the root,
+// its members as additions.
+TEST_F(ExtInfoTree, GroupAheadOfTheMarker)
+{
+  int32_t father = define("S", TYP_SEQ);
+  int32_t group = comp(father, "", TYP_EXTADDGRP);
+  comp(group, "b", TYP_NULL);
+  comp(group, "c", TYP_NULL, TCS_OPTIONAL);
+  marker(father);
+  comp(father, "d", TYP_NULL);
+  int32_t plain = define("P", TYP_SEQ);
+  comp(plain, "a", TYP_NULL);
+  start();
+  TestType view(module, father), without(module, plain);
+  EXPECT_EQ(infoOf(*view), "1+0 ... 1+0 of 1");
+  // The last walk met no marker.
+  EXPECT_EQ(infoOf(*without), "1+0 ... 0+0 of 0");
+  groups.clear();
+  forEachTypeComp(*view, showGroup);
+  EXPECT_EQ(groups, "0+0 ... 1+1 of 2 1; ");
+}
+
 }  // namespace

@@ -146,6 +146,22 @@ TEST_F(PerAlphabet, TypesWithRanges)
   EXPECT_EQ(alphabetOf("NumericString (FROM(\"1\"..\"3\"))"), "123");
 }
 
+// The values' own types count, not the one that they bound.
+TEST_F(PerAlphabet, RangeBetweenValuesOfTwoTypes)
+{
+  compile("c IA5String ::= \"C\"\nT ::= BMPString (FROM(\"A\"..c))");
+  TestType type = named("T");
+  EXPECT_EQ(found(*type), noAlphabet);
+}
+
+TEST_F(PerAlphabet, RangeBetweenValuesOfOneOtherType)
+{
+  compile("a IA5String ::= \"A\"\nc IA5String ::= \"C\"\n"
+          "T ::= BMPString (FROM(a..c))");
+  TestType type = named("T");
+  EXPECT_EQ(found(*type), "ABC");
+}
+
 TEST_F(PerAlphabet, TypesWithoutRanges)
 {
   for (const char *name :
@@ -318,6 +334,30 @@ TEST_F(PerAlphabetDeathTest, RangeBehindValue)
   EXPECT_EXIT(found(*type), ExitedWithCode(2), "Range Characters error\n");
 }
 
+// Even one that would tell nothing by itself.
+TEST_F(PerAlphabetDeathTest, InvertedRangeBehindValue)
+{
+  compile("U ::= IA5String (FROM(\"AB\"))\nT ::= U (FROM(\"F\"..\"A\"))");
+  TestType type = named("T");
+  EXPECT_EXIT(found(*type), ExitedWithCode(2), "Range Characters error\n");
+}
+
+TEST_F(PerAlphabetDeathTest, WideValueBehindRange)
+{
+  compile("U ::= BMPString (FROM(\"a\"..\"b\"))\nT ::= U (FROM(\"xy\"))");
+  TestType type = named("T");
+  EXPECT_EXIT(found(*type), ExitedWithCode(2),
+              "Too complex permitted alphabet constraint for T, line 2\n");
+}
+
+TEST_F(PerAlphabet, InvertedRangeAheadOfARange)
+{
+  compile("U ::= IA5String (FROM(\"F\"..\"A\"))\n"
+          "T ::= U (FROM(\"A\"..\"C\"))");
+  TestType type = named("T");
+  EXPECT_EQ(found(*type), "ABC");
+}
+
 TEST_F(PerAlphabet, RangeThatTellsNothingOnASecondLevel)
 {
   compile("U ::= IA5String (FROM(\"AB\"))\nT ::= U (FROM(\"A\"<..\"F\"))");
@@ -350,6 +390,11 @@ static const AlphabetRow alphabetRows[] = {
     {"(FROM(\"A\"..\"Z\"|\"a\"..\"g\"))", "8/33", "6/33"},
     {"(FROM(\"A\"..\"Z\"|\"0\"))", "8/27", "5/27"},
     {"(FROM(\"aab\"))", "2/3", "2/3"},
+    {"(FROM(\"a\"..\"g\"))", "4/7", "3/7"},
+    {"(FROM(\"a\"..\"o\"))", "4/15", "4/15"},
+    {"(FROM(\"A\"..\"Z\"|\"a\"..\"e\"))", "8/31", "5/31"},
+    {"(FROM(\" \"..\"_\"))", "8/64", "6/64"},
+    {"(FROM(\" \"..\"`\"))", "8/65", "7/65"},
 };
 
 TEST_F(PerAlphabet, BitsOfAlphabets)
@@ -365,6 +410,9 @@ TEST_F(PerAlphabet, BitsOfAlphabets)
 TEST_F(PerAlphabet, BitsOfLargeAlphabets)
 {
   std::string range = "BMPString (FROM({0,0,0,1}..{0,0,0,";
+  EXPECT_EQ(bitsOf(range + "127}))", VARIANT_UNALIGNED), "7/127");
+  EXPECT_EQ(bitsOf(range + "255}|\"a\"..\"a\"))", VARIANT_UNALIGNED), "8/256");
+  EXPECT_EQ(bitsOf(range + "255}|\"a\"..\"a\"))", VARIANT_ALIGNED), "8/256");
   EXPECT_EQ(bitsOf(range + "128}))", VARIANT_UNALIGNED), "7/128");
   EXPECT_EQ(bitsOf(range + "129}))", VARIANT_UNALIGNED), "8/129");
   EXPECT_EQ(bitsOf(range + "255}))", VARIANT_UNALIGNED), "8/255");

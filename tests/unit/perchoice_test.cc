@@ -231,7 +231,8 @@ TEST_F(PerChoice, OpenTypeOfAnUnknownVariant)
     perSetEncodingVariant(chosen);
     std::string text;
     EXPECT_EXIT(perOpenTypeFunctionName(text, "pe_Begin", " (&"),
-                ExitedWithCode(2), "Unknown encoding variant\n");
+                ExitedWithCode(2),
+                "Internal error\n +Unknown encoding variant\n");
   }
 }
 

@@ -379,6 +379,7 @@ constexpr char twoModules[] =
     "M DEFINITIONS AUTOMATIC TAGS ::= BEGIN\n"
     "IMPORTS Good, Bad, More FROM N;\n"
     "S ::= SEQUENCE { a Good, b Bad, c More }\n"
+    "Syn ::= Bad\nFar ::= More\n"
     "END\n"
     "N DEFINITIONS AUTOMATIC TAGS ::= BEGIN\n"
     "Good ::= ENUMERATED { a, b }\n"
@@ -390,6 +391,28 @@ TEST_F(PerEnumName, PositionsInAnotherModule)
 {
   loadModules(twoModules);
   EXPECT_EQ(answersFor(answer), "yes no no ");
+}
+
+TEST_F(PerEnumName, DefinitionsOverTheModuleBorder)
+{
+  loadModules(twoModules);
+  TestType synonym(module, type("Syn")), far(module, type("Far"));
+  EXPECT_FALSE(checkEnumerated(*synonym));
+  EXPECT_EQ(describe(*far), "<XEnum_cwn_al_le255> 1: 3..4, 9, 1");
+}
+
+// There is no function for a home of 64 bits, but what the walk found is told.
+TEST_F(PerEnumName, AdditionWithoutFunction)
+{
+  load("T ::= ENUMERATED { a, ..., b(7) } --$ field=i64\n");
+  TestType view(module, type("T"));
+  std::string text;
+  int kind = 0, bits = 0;
+  int32_t lower = 0, upper = 0, addLower = 0;
+  EXPECT_EQ(perEnumeratedFunctionName(text, nullptr, *view, nullptr, kind,
+                                      lower, upper, addLower, bits),
+            nullptr);
+  EXPECT_EQ(addLower, 7);
 }
 
 TEST_F(PerEnumName, NotExtensible)

@@ -141,8 +141,9 @@ TEST_F(PerInt, BitsInRange64)
 
 TEST_F(PerInt, BitsOfANegativeRange)
 {
-  EXPECT_EXIT(numberOfBitsInRange64(big(-1)), ExitedWithCode(2),
-              "Pre-condition failure in numberOfBitsInRange64\n");
+  EXPECT_EXIT(
+      numberOfBitsInRange64(big(-1)), ExitedWithCode(2),
+      "Internal error\n +Pre-condition failure in numberOfBitsInRange64\n");
 }
 
 TEST_F(PerInt, BitsBetweenBounds)
@@ -156,10 +157,12 @@ TEST_F(PerInt, BitsBetweenBounds)
 
 TEST_F(PerInt, BitsBetweenBoundsTooFarApart)
 {
-  EXPECT_EXIT(perBitsInIntegerBitField(big(0), big(highest)), ExitedWithCode(2),
-              "Pre-condition failure in perBitsInIntegerBitField\n");
-  EXPECT_EXIT(perBitsInIntegerBitField(big(7), big(5)), ExitedWithCode(2),
-              "Pre-condition failure in perBitsInIntegerBitField\n");
+  EXPECT_EXIT(
+      perBitsInIntegerBitField(big(0), big(highest)), ExitedWithCode(2),
+      "Internal error\n +Pre-condition failure in perBitsInIntegerBitField\n");
+  EXPECT_EXIT(
+      perBitsInIntegerBitField(big(7), big(5)), ExitedWithCode(2),
+      "Internal error\n +Pre-condition failure in perBitsInIntegerBitField\n");
 }
 
 TEST_F(PerInt, BitsBetweenBounds32)

@@ -31,6 +31,19 @@ struct PerLength : PerStringTypes {
 
 // --- bounds -----------------------------------------------------------------
 
+TEST_F(PerLength, HiddenConstraintsAlone)
+{
+  int32_t record = type(TYP_SEQOF, sub(SUB_HIDDEN));
+  load();
+  TestType list(module, record);
+  int32_t lower = -1, upper = -1;
+  int count = -1;
+  EXPECT_EQ(perGetSeqOfField(*list, lower, upper, count), SEQOF_FRAGMENTED);
+  EXPECT_EQ(lower, 0);
+  EXPECT_EQ(upper, INT32_MAX);
+  EXPECT_EQ(count, 4);
+}
+
 TEST_F(PerLength, RangesOfSizes)
 {
   EXPECT_EQ(perSizeRange(1, 10), 10);
@@ -99,6 +112,10 @@ static const ListRow listRows[] = {
     {"(SIZE(65535))", "0: 65535..65535, 0", "0: 65535..65535, 0"},
     {"(SIZE(65536))", "4: 65536..65536, 4", "4: 65536..65536, 4"},
     {"(SIZE(65537))", "4: 65537..65537, 4", "4: 65537..65537, 4"},
+    {"(SIZE(3000000000..4000000000))", "4: 2147483647..2147483647, 4",
+     "4: 2147483647..2147483647, 4"},
+    // SIZEs inside a union alone
+    {"(SIZE(1)|SIZE(5))", "5: 0..0, 0", "5: 0..0, 0"},
     // up to 255 lengths
     {"(SIZE(0..1))", "1: 0..1, 1", "1: 0..1, 1"},
     {"(SIZE(1..10))", "1: 1..10, 4", "1: 1..10, 4"},

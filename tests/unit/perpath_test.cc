@@ -163,9 +163,10 @@ TEST_F(PerPath, ElementWithoutList)
   int32_t seq = define("T", TYP_SEQ);
   load(true);
   TestType view(module, seq);
-  EXPECT_EXIT(perPushElem(*view, info), testing::ExitedWithCode(2), "");
+  EXPECT_EXIT(perPushElem(*view, info), testing::ExitedWithCode(2),
+              "Internal error");
   EXPECT_EXIT(perPushElemInCallBack(*view, info), testing::ExitedWithCode(2),
-              "");
+              "Internal error");
 }
 
 // The text in the C string is never broken off.

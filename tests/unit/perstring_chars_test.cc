@@ -76,6 +76,9 @@ typedef PerChars PerCharsDeathTest;
 TEST_F(PerChars, CharactersWithoutSize)
 {
   EXPECT_EQ(charsField("IA5String"), "4: 0..2147483647, 8, 4, 128");
+  // SIZEs inside a union alone.
+  EXPECT_EQ(charsField("IA5String (SIZE(1)|SIZE(5))"),
+            "4: 0..2147483647, 8, 4, 128");
   EXPECT_EQ(charsField("NumericString"), "4: 0..2147483647, 4, 4, 11");
   EXPECT_EQ(charsField("BMPString"), "4: 0..2147483647, 16, 4, 65534");
   EXPECT_EQ(charsField("UniversalString"),
@@ -108,6 +111,8 @@ TEST_F(PerChars, CharactersOfFixedNumber)
 // Sixteen and seventeen characters of one bit.
 TEST_F(PerChars, CharactersOfFewBits)
 {
+  EXPECT_EQ(charsField("IA5String (SIZE(15))(FROM(\"ab\"))"),
+            "0: 15..15, 1, 0, 2");
   EXPECT_EQ(charsField("IA5String (SIZE(16))(FROM(\"ab\"))"),
             "0: 16..16, 1, 0, 2");
   EXPECT_EQ(charsField("IA5String (SIZE(17))(FROM(\"ab\"))"),
@@ -118,6 +123,12 @@ TEST_F(PerChars, CharactersOfFewBits)
 
 TEST_F(PerChars, CharactersFrom64K)
 {
+  EXPECT_EQ(charsField("IA5String (SIZE(65534))"),
+            "1: 65534..65534, 8, 0, 128");
+  EXPECT_EQ(charsField("IA5String (SIZE(65537))"),
+            "2: 65537..65537, 8, 0, 128");
+  EXPECT_EQ(charsField("IA5String (SIZE(3000000000..4000000000))"),
+            "2: 2147483647..2147483647, 8, 0, 128");
   EXPECT_EQ(charsField("IA5String (SIZE(65535))"),
             "1: 65535..65535, 8, 0, 128");
   EXPECT_EQ(charsField("IA5String (SIZE(65536))"),
@@ -134,6 +145,9 @@ TEST_F(PerChars, CharactersOfVariableNumber)
     int count;
   } rows[] = {
       {"(0..1)", "3: 0..1", 1},
+      {"(0..65534)", "3: 0..65534", 2},
+      {"(0..65537)", "3: 0..65537", 3},
+      {"(1..2147483647)", "4: 1..2147483647", 4},
       {"(1..10)", "3: 1..10", 4},
       {"(0..254)", "3: 0..254", 8},
       {"(0..255)", "3: 0..255", 1},
@@ -186,7 +200,9 @@ static const LenIdRow lenIdRows[] = {
     {3, 0, 254, "_clt64K_le255", "_clt64K"},
     {3, 0, 255, "_clt64K_eq256", "_clt64K"},
     {3, 0, 256, "_clt64K_le64K", "_clt64K"},
+    {3, 0, 65534, "_clt64K_le64K", "_clt64K"},
     {3, 0, 65535, "_clt64K_le64K", "_clt64K"},
+    {3, 0, 65537, "_cge64K", "_cge64K"},
     {3, 65281, 65535, "_clt64K_le255", "_clt64K"},
     {3, 65281, 65536, "_cge64K", "_cge64K"},
     {3, 0, 65536, "_cge64K", "_cge64K"},

@@ -167,6 +167,13 @@ TEST_F(PerStruct, Pieces)
                    "|= BITL(0);\n"}));
   EXPECT_EQ(brokenTexts([](int f) { perDefineExtensionBit(f, "0"); }),
             (Rests{"BOOLE extensionBit_0 = 0;\n", "0;\n"}));
+  load("T ::= SEQUENCE { ..., a NULL, b NULL }");
+  TestType view(module, type("T"));
+  const ExtensionInfo info = getExtensionInfo(*view);
+  EXPECT_EQ(
+      brokenTexts([&](int f) { perDefineExtensionAddField(f, &*view, info); }),
+      (Rests{"sint32 extensionAdditionField_0 = 0|BITL(1)|BITL(0);\n",
+             "|BITL(1)|BITL(0);\n", "|BITL(0);\n"}));
   EXPECT_EQ(brokenTexts([](int f) { perSetExtensionBit(f, "1"); }),
             (Rests{"extensionBit_0 = 1;\n"}));
 }
@@ -314,6 +321,17 @@ TEST_F(PerStruct, SimpleTypes)
   for (const char *name : {"E", "F", "G", "H", "I", "J", "K", "L"}) {
     TestType view(module, type(name));
     EXPECT_FALSE(perIsSimpleType(*view)) << name;
+  }
+}
+
+// Both of EXTERNAL, of which ASN.1 of today has one.
+TEST_F(PerStruct, ExternalTypes)
+{
+  load("L ::= EXTERNAL");
+  TestType external(module, type("L"));
+  for (uint8_t mainType : {TYP_EXTERNAL, TYP_EXTERNAL_1994}) {
+    external->base.mainType = mainType;
+    EXPECT_FALSE(perIsSimpleType(*external)) << int{mainType};
   }
 }
 

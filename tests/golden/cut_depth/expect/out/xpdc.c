@@ -2002,7 +2002,7 @@ void pdT18 (ASNG_F(ASNPERG *asnperg) T18 *home)
                                                                                   (BOOLE *)
                                                                                   allocAsn (
                                                                                   getHomeG (asnperg_asnuti),
-                                                                                  MB_STG,
+                                                                                  MB_STG, 
                                                                                   len_19 *
                                                                                   sizeof (BOOLE));
                                                                                 if (

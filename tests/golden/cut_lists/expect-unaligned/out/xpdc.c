@@ -113,7 +113,7 @@ void pdTOf8xxxxx (ASNG_F(ASNPERG *asnperg) TOf8xxxxx *home)
     uint32 len_1;
     pd_lenDet_ua_clt64K_le64K (&len_1, 1, 10, 4);
     if (len_1 > 0){
-      home->of8xxxxxE_fld.elem = (POf8xxxxx *)allocAsn (NULL, MB_STG,
+      home->of8xxxxxE_fld.elem = (POf8xxxxx *)allocAsn (NULL, MB_STG, 
         ((len_1 < 4)? len_1 : 4) * sizeof (POf8xxxxx));
       if (home->of8xxxxxE_fld.elem == NULL){
         reportFatalError (LACK_OF_MEMORY);
@@ -328,7 +328,7 @@ void pdTOf14xxxxxxxxxx (ASNG_F(ASNPERG *asnperg) TOf14xxxxxxxxxx *home)
     uint32 len_1;
     pd_lenDet_ua_clt64K_le64K (&len_1, 1, 10, 4);
     if (len_1 > 0){
-      home->of14xxxxxxxxxxH_fld.elem = (ASNHOME **)allocAsn (NULL, MB_STG,
+      home->of14xxxxxxxxxxH_fld.elem = (ASNHOME **)allocAsn (NULL, MB_STG, 
         len_1 * sizeof (ASNHOME *));
       if (home->of14xxxxxxxxxxH_fld.elem == NULL){
         reportFatalError (LACK_OF_MEMORY);
@@ -504,7 +504,7 @@ void pdTOf28xxxxxxxxxxxxxxxxxxxxxxxx (ASNG_F(ASNPERG *asnperg)
     pd_lenDet_ua_clt64K_le64K (&len_1, 1, 10, 4);
     if (len_1 > 0){
       home->of28xxxxxxxxxxxxxxxxxxxxxxxxE_fld.elem =
-        (POf28xxxxxxxxxxxxxxxxxxxxxxxx *)allocAsn (NULL, MB_STG,
+        (POf28xxxxxxxxxxxxxxxxxxxxxxxx *)allocAsn (NULL, MB_STG, 
         ((len_1 < 4)? len_1 : 4) * sizeof (POf28xxxxxxxxxxxxxxxxxxxxxxxx));
       if (home->of28xxxxxxxxxxxxxxxxxxxxxxxxE_fld.elem == NULL){
         reportFatalError (LACK_OF_MEMORY);

@@ -344,7 +344,7 @@ void pdWithin (ASNG_F(ASNPERG *asnperg) Within *home)
     uint32 len_1;
     pd_lenDet_ua_clt64K_le64K (&len_1, 1, 3, 2);
     if (len_1 > 0){
-      home->b_fld.elem = (struct t_1_b_b_Within *)allocAsn (NULL, MB_STG,
+      home->b_fld.elem = (struct t_1_b_b_Within *)allocAsn (NULL, MB_STG, 
         len_1 * sizeof (struct t_1_b_b_Within));
       if (home->b_fld.elem == NULL){
         reportFatalError (LACK_OF_MEMORY);

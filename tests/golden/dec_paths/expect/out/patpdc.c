@@ -182,7 +182,7 @@ void pdDynamic (ASNG_F(ASNPERG *asnperg) Dynamic *home)
     uint32 len_0;
     pd_lenDet_al_clt64K_le255 (&len_0, 1, 3, 2);
     if (len_0 > 0){
-      home->elem = (Struct *)allocAsn (getHomeG (asnperg_asnuti), MB_STG,
+      home->elem = (Struct *)allocAsn (getHomeG (asnperg_asnuti), MB_STG, 
         len_0 * sizeof (Struct));
       if (home->elem == NULL){
         reportFatalError (LACK_OF_MEMORY);

@@ -308,7 +308,7 @@ static void df1_FragmentsIgnoredInline (ASNG_F(ASNPERG *asnperg) sint32 n,
   ASNHOME *a1;
   while (n){
     appendList (NULL, home, &a1, VF_STRU, sizeof (SKIPPED));
-    incListLen (home);
+    NOT YET IMPLEMENTED!!incListLen (home);
     n--;
   }
 }

@@ -75,5 +75,5 @@ void piCharacters (ASNG_L(ASNPERG *asnperg))
     ASN_BMPCHAR, 65534, NULL);
   pi_KnownMultiCharStri_ua!! Unsupported string type !! (0, 0, 0, -1,
     TYP_IA5STR, 0, NULL);
-   /* ?!?: Invalid decoding follows - extended string constraint. */ 
+  pi_KnownMultiCharStri_ua_clt64K (1, 4, 2, 7, TYP_IA5STR, 128, NULL);
 }

@@ -284,6 +284,60 @@ void piPlaneUser (ASNG_L(ASNPERG *asnperg))
   piPlane (ASNG_L(asnperg));
 }
 
+void piKnot (ASNG_L(ASNPERG *asnperg))
+{
+  {
+    sint32 optfield_1;
+    optfield_1 = pd_getBits (1);
+    if (optfield_1 & BITL(0)){
+      piBow (ASNG_L(asnperg));
+    }
+  }
+}
+
+void piBow (ASNG_L(ASNPERG *asnperg))
+{
+  {
+    sint32 optfield_0;
+    optfield_0 = pd_getBits (1);
+    if (optfield_0 & BITL(0)){
+      piKnot (ASNG_L(asnperg));
+    }
+  }
+}
+
+void pdBow (ASNG_F(ASNPERG *asnperg) Bow *home)
+{
+  home->compmask = 0;
+  {
+    sint32 optfield_0;
+    optfield_0 = pd_getBits (1);
+    if (optfield_0 & BITL(0)){
+      if (!(home->a_fld = (Knot *)allocAsn (NULL, MB_STG, sizeof (Knot)))){
+        reportFatalError (LACK_OF_MEMORY);
+      }
+      home->compmask |= BIT(0);
+      pdKnot (ASNG_F(asnperg) home->a_fld);
+    }
+  }
+}
+
+void pdKnot (ASNG_F(ASNPERG *asnperg) Knot *home)
+{
+  home->a_fld.compmask = 0;
+  {
+    sint32 optfield_1;
+    optfield_1 = pd_getBits (1);
+    if (optfield_1 & BITL(0)){
+      if (!(home->a_fld.b_fld = (Bow *)allocAsn (NULL, MB_STG, sizeof (Bow)))){
+        reportFatalError (LACK_OF_MEMORY);
+      }
+      home->a_fld.compmask |= BIT(0);
+      pdBow (ASNG_F(asnperg) home->a_fld.b_fld);
+    }
+  }
+}
+
 void piEntry (ASNG_L(ASNPERG *asnperg))
 {
   pi_Boolean ();

@@ -126,6 +126,36 @@ void pePlane (ASNG_F(ASNPERG *asnperg) Plane *home)
   }
 }
 
+void peBow (ASNG_F(ASNPERG *asnperg) Bow *home)
+{
+  {
+    sint32 optfield_0 = 0;
+    if (home->compmask & BIT(0)){
+      optfield_0 |= BITL(0);
+    }
+    pe_optField (optfield_0, 1);
+  }
+  if ((home->compmask & BIT(0))){
+    peKnot (ASNG_F(asnperg) home->a_fld);
+  }
+}
+
+void peKnot (ASNG_F(ASNPERG *asnperg) Knot *home)
+{
+  {
+    {
+      sint32 optfield_1 = 0;
+      if (home->a_fld.compmask & BIT(0)){
+        optfield_1 |= BITL(0);
+      }
+      pe_optField (optfield_1, 1);
+    }
+    if ((home->a_fld.compmask & BIT(0))){
+      peBow (ASNG_F(asnperg) home->a_fld.b_fld);
+    }
+  }
+}
+
 void pecEntry (ASNG_F(ASNPERG *asnperg) Entry *home)
 {
   pe_setEncodingVariant (ASN_PER_BASIC_UNALIGNED);
