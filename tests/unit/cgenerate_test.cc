@@ -5,6 +5,8 @@
 #include "cbet/cgenerate.h"
 #include "cbet/cvars.h"
 #include "cbet/outfile.h"
+#include "cbet/traverse.h"
+#include "model/typeiter.h"
 #include "model/typepath.h"
 #include "model/typequery.h"
 #include "support/loadedasn.h"
@@ -348,6 +350,25 @@ TEST_F(CGenerate, InlineTypesOfEachFunctionCountAfresh)
     EXPECT_EQ(generate(), 1);
     EXPECT_EQ(seen, "T A ");
   }
+}
+
+// Around a function stand the lines of the definition, at a component those
+// of its own node.
+TEST_F(CGenerate, EmbeddingLinesOfAComponent)
+{
+  load("S ::= SEQUENCE { d Part --$ embed=\"E1:x\"\n}\n"
+       "Part ::= SEQUENCE { a NULL } --$ embed=\"E1:y\"\n");
+  glbInfo = &info;
+  openNamedF(1, run.dir.path.c_str(), "out.c");
+  TestType view(module, type("S"));
+  forEachTypeComp(*view, [](AsnType &, AsnType &comp, int) {
+    printCodeTEDs(comp, true, 1);
+    putToF(1, "-\n");
+    printCodeTEDs(comp, false, 1);
+  });
+  closeF(1);
+  glbInfo = nullptr;
+  EXPECT_EQ(written(), "y\n-\nx\n");
 }
 
 TEST(TypeFuncInfo, Cleared)

@@ -252,6 +252,26 @@ TEST_F(Decoder, DefaultOfMandatoryComponent)
   EXPECT_EQ(encoders(), "if (home->a_fld == NULL)");
 }
 
+// 0 ignores, 1 is an error; anything above means that nothing is skipped.
+TEST_F(Decoder, SkipKindOfAnAddition)
+{
+  for (uint8_t kind : {uint8_t{0}, uint8_t{2}, uint8_t{254}}) {
+    compiled =
+        compileBody("T ::= SEQUENCE { ..., a BOOLEAN OPTIONAL }\n", options);
+    StxTree &tree = treeOf(compiled);
+    stxTypeAt(tree, compNamed(tree, type("T"), "a")).typeOptions.skipKind =
+        kind;
+    loadCompiled();
+    generate();
+    std::string text = decoders();
+    bool begins =
+        text.find("pd_BeginOpenType_al (&openctx_0);") != std::string::npos;
+    EXPECT_EQ(begins, kind != 0) << int{kind};
+    EXPECT_NE(text.find("pd_Boolean (&home->a_fld);"), std::string::npos);
+    EXPECT_NE(text.find("pd_EndOpenType_al (&openctx_0);"), std::string::npos);
+  }
+}
+
 // --- the cut into texts -----------------------------------------------------
 
 namespace {
