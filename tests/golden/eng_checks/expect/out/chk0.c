@@ -206,6 +206,31 @@ void entrySkipped (ASNG_F(ASNPERG *asnperg) Skipped *home)
   /* entryPopPath Skipped "" */
 }
 /* afterEntryFunc Skipped "" */
+/* beforeNormalFunc Wc "" */
+
+void normWc (ASNG_F(ASNPERG *asnperg) Wc *home)
+{
+  /* struPrefix Wc "" */
+  /* compPrefix a#0 "" */
+  /* pushPath a#0 "a_fld" */
+  /* leaf a#0 "a_fld" */
+  /* popPath a#0 "a_fld" */
+  /* compPostfix a#0 "a_fld" */
+  /* struPostfix Wc "" */
+  /* WARNING: Unimplemented type constraint. */
+}
+/* afterNormalFunc Wc "" */
+/* beforeEntryFunc Wc "" */
+
+void entryWc (ASNG_F(ASNPERG *asnperg) Wc *home)
+{
+  /* entryPushPath Wc "" */
+  /* entryPrefix Wc "" */
+  normWc (ASNG_F(asnperg) home);
+  /* entryPostfix Wc "" */
+  /* entryPopPath Wc "" */
+}
+/* afterEntryFunc Wc "" */
 /* beforeEntryFunc Framed "" */
 
 void entryFramed (ASNG_F(ASNPERG *asnperg) Framed *home)
@@ -218,4 +243,4 @@ void entryFramed (ASNG_F(ASNPERG *asnperg) Framed *home)
 }
 /* afterEntryFunc Framed "" */
 
-/* passed 9 */
+/* passed 10 */

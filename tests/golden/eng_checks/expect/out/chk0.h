@@ -19,4 +19,8 @@ extern void entryAliasOfS (ASNG_F(ASNPERG *asnperg) AliasOfS *home);
 
 extern void entrySkipped (ASNG_F(ASNPERG *asnperg) Skipped *home);
 
+extern void normWc (ASNG_F(ASNPERG *asnperg) Wc *home);
+
+extern void entryWc (ASNG_F(ASNPERG *asnperg) Wc *home);
+
 extern void entryFramed (ASNG_F(ASNPERG *asnperg) Framed *home);

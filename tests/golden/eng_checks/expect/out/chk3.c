@@ -161,6 +161,30 @@ void entrySkipped (ASNG_F(ASNPERG *asnperg) Skipped *home)
   /* entryPopPath Skipped "" */
 }
 /* afterEntryFunc Skipped "" */
+/* beforeNormalFunc Wc "" */
+
+void normWc (ASNG_F(ASNPERG *asnperg) Wc *home)
+{
+  /* struPrefix Wc "" */
+  /* compPrefix a#0 "" */
+  /* pushPath a#0 "a_fld" */
+  /* leaf a#0 "a_fld" */
+  /* popPath a#0 "a_fld" */
+  /* compPostfix a#0 "a_fld" */
+  /* struPostfix Wc "" */
+}
+/* afterNormalFunc Wc "" */
+/* beforeEntryFunc Wc "" */
+
+void entryWc (ASNG_F(ASNPERG *asnperg) Wc *home)
+{
+  /* entryPushPath Wc "" */
+  /* entryPrefix Wc "" */
+  normWc (ASNG_F(asnperg) home);
+  /* entryPostfix Wc "" */
+  /* entryPopPath Wc "" */
+}
+/* afterEntryFunc Wc "" */
 /* beforeEntryFunc Framed "" */
 
 void entryFramed (ASNG_F(ASNPERG *asnperg) Framed *home)
@@ -173,4 +197,4 @@ void entryFramed (ASNG_F(ASNPERG *asnperg) Framed *home)
 }
 /* afterEntryFunc Framed "" */
 
-/* passed 9 */
+/* passed 10 */

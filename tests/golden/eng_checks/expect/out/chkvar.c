@@ -237,6 +237,20 @@ void entrySkipped (ASNG_F(ASNPERG *asnperg) ASNHOME **hometab)
   /* skipFunc Skipped "" */
 }
 
+void normWc (ASNG_F(ASNPERG *asnperg) Wc *home)
+{
+  /* leaf a#0 "a_fld" */
+  /* WARNING: Unimplemented type constraint. */
+}
+
+void entryWc (ASNG_F(ASNPERG *asnperg) ASNHOME **hometab)
+{
+  createHome (getHomeG (asnperg_asnuti), &hometab [0], VF_I32, 0);
+  /* leaf a#0 "a_fld" */
+  /* WARNING: Unimplemented type constraint. */
+  /* WARNING: Unimplemented type constraint. */
+}
+
 void entryFramed (ASNG_F(ASNPERG *asnperg) ASNHOME **hometab)
 {
   createHome (getHomeG (asnperg_asnuti), &hometab [0], VF_FRM,
@@ -246,4 +260,4 @@ void entryFramed (ASNG_F(ASNPERG *asnperg) ASNHOME **hometab)
   popHomeG (asnperg_asnuti);
 }
 
-/* passed 9 */
+/* passed 10 */

@@ -19,4 +19,8 @@ extern void entryAliasOfS (ASNG_F(ASNPERG *asnperg) ASNHOME **hometab);
 
 extern void entrySkipped (ASNG_F(ASNPERG *asnperg) ASNHOME **hometab);
 
+extern void normWc (ASNG_F(ASNPERG *asnperg) Wc *home);
+
+extern void entryWc (ASNG_F(ASNPERG *asnperg) ASNHOME **hometab);
+
 extern void entryFramed (ASNG_F(ASNPERG *asnperg) ASNHOME **hometab);
