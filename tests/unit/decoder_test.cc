@@ -5,6 +5,7 @@
 #include "model/typeiter.h"
 #include "model/typequery.h"
 #include "per/dec.h"
+#include "per/perelem.h"
 #include "per/perstruct.h"
 #include "support/decodertext.h"
 
@@ -320,6 +321,7 @@ struct DecoderPieces : Decoder {
   std::string prefixOfList(const std::string &list)
   {
     load("L " + list + "\n");
+    perResetElemFuncs();
     return pieces("L",
                   [](AsnType &type) { forTypeElem(type, decSeqOfPrefix); });
   }
