@@ -191,6 +191,15 @@ TEST_F(DecSkip, MarkerAsALeaf)
   perEndStructure();
 }
 
+// A CHOICE has no bitmap.
+TEST_F(DecSkip, MarkerOfAChoiceAsALeaf)
+{
+  loadTypes("T ::= CHOICE { a NULL, ... }\n");
+  perBeginStructure();
+  EXPECT_EQ(atComp(1, decIgnoreFuncs.skipLeaf), "");
+  perEndStructure();
+}
+
 TEST_F(DecSkip, AllAdditionsOfASequenceAlone)
 {
   for (const char *other : {"SET", "CHOICE"}) {

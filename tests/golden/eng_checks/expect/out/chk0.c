@@ -206,6 +206,38 @@ void entrySkipped (ASNG_F(ASNPERG *asnperg) Skipped *home)
   /* entryPopPath Skipped "" */
 }
 /* afterEntryFunc Skipped "" */
+/* additionalNormalFunc Oid "" */
+/* beforeEntryFunc Oid "" */
+
+void entryOid (ASNG_F(ASNPERG *asnperg) Oid *home)
+{
+  /* entryPushPath Oid "" */
+  /* entryPrefix Oid "" */
+  /* leaf Oid "" */
+  /* entryPostfix Oid "" */
+  /* WARNING: Unimplemented type constraint. */
+  /* entryPopPath Oid "" */
+}
+/* afterEntryFunc Oid "" */
+/* additionalNormalFunc Dyn "" */
+/* beforeEntryFunc Dyn "" */
+
+void entryDyn (ASNG_F(ASNPERG *asnperg) Dyn *home)
+{
+  /* entryPushPath Dyn "" */
+  /* entryPrefix Dyn "" */
+  /* leaf Dyn "" */
+  /* entryPostfix Dyn "" */
+  {
+    BOOLE ok1;
+    ok1 = (dynChrStrStrspn (home, "AB") == dynStrLen (home));
+    if (!ok1){
+      report (CONSTRAINT_FAIL);
+    }
+  }
+  /* entryPopPath Dyn "" */
+}
+/* afterEntryFunc Dyn "" */
 /* beforeNormalFunc Wc "" */
 
 void normWc (ASNG_F(ASNPERG *asnperg) Wc *home)
@@ -243,4 +275,4 @@ void entryFramed (ASNG_F(ASNPERG *asnperg) Framed *home)
 }
 /* afterEntryFunc Framed "" */
 
-/* passed 10 */
+/* passed 12 */

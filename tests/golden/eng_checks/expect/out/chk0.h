@@ -19,6 +19,10 @@ extern void entryAliasOfS (ASNG_F(ASNPERG *asnperg) AliasOfS *home);
 
 extern void entrySkipped (ASNG_F(ASNPERG *asnperg) Skipped *home);
 
+extern void entryOid (ASNG_F(ASNPERG *asnperg) Oid *home);
+
+extern void entryDyn (ASNG_F(ASNPERG *asnperg) Dyn *home);
+
 extern void normWc (ASNG_F(ASNPERG *asnperg) Wc *home);
 
 extern void entryWc (ASNG_F(ASNPERG *asnperg) Wc *home);

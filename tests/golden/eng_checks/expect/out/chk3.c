@@ -161,6 +161,30 @@ void entrySkipped (ASNG_F(ASNPERG *asnperg) Skipped *home)
   /* entryPopPath Skipped "" */
 }
 /* afterEntryFunc Skipped "" */
+/* additionalNormalFunc Oid "" */
+/* beforeEntryFunc Oid "" */
+
+void entryOid (ASNG_F(ASNPERG *asnperg) Oid *home)
+{
+  /* entryPushPath Oid "" */
+  /* entryPrefix Oid "" */
+  /* leaf Oid "" */
+  /* entryPostfix Oid "" */
+  /* entryPopPath Oid "" */
+}
+/* afterEntryFunc Oid "" */
+/* additionalNormalFunc Dyn "" */
+/* beforeEntryFunc Dyn "" */
+
+void entryDyn (ASNG_F(ASNPERG *asnperg) Dyn *home)
+{
+  /* entryPushPath Dyn "" */
+  /* entryPrefix Dyn "" */
+  /* leaf Dyn "" */
+  /* entryPostfix Dyn "" */
+  /* entryPopPath Dyn "" */
+}
+/* afterEntryFunc Dyn "" */
 /* beforeNormalFunc Wc "" */
 
 void normWc (ASNG_F(ASNPERG *asnperg) Wc *home)
@@ -197,4 +221,4 @@ void entryFramed (ASNG_F(ASNPERG *asnperg) Framed *home)
 }
 /* afterEntryFunc Framed "" */
 
-/* passed 10 */
+/* passed 12 */

@@ -236,6 +236,32 @@ void entrySkipped (ASNG_F(ASNPERG *asnperg) ASNHOME **hometab)
   createHome (getHomeG (asnperg_asnuti), &hometab [0], VF_UI8, 0);
   /* skipFunc Skipped "" */
 }
+/* additionalNormalFunc Oid "" */
+
+void entryOid (ASNG_F(ASNPERG *asnperg) ASNHOME **hometab)
+{
+  createHome (getHomeG (asnperg_asnuti), &hometab [0], VF_OBJI,
+    sizeof (OBJECTIDENTIFIER));
+  /* leaf Oid "" */
+  /* WARNING: Unimplemented type constraint. */
+}
+/* additionalNormalFunc Dyn "" */
+
+void entryDyn (ASNG_F(ASNPERG *asnperg) ASNHOME **hometab)
+{
+  createHome (getHomeG (asnperg_asnuti), &hometab [0], VF_DYNS, 0);
+  pushHomeG (asnperg_asnuti, hometab [0]);
+  /* leaf Dyn "" */
+  popHomeG (asnperg_asnuti);
+  {
+    BOOLE ok1;
+    ok1 = (dynChrStrStrspn (&hometab [0]->val.dyns, "AB") ==
+      dynStrLen (&hometab [0]->val.dyns));
+    if (!ok1){
+      report (CONSTRAINT_FAIL);
+    }
+  }
+}
 
 void normWc (ASNG_F(ASNPERG *asnperg) Wc *home)
 {
@@ -260,4 +286,4 @@ void entryFramed (ASNG_F(ASNPERG *asnperg) ASNHOME **hometab)
   popHomeG (asnperg_asnuti);
 }
 
-/* passed 10 */
+/* passed 12 */

@@ -19,6 +19,10 @@ extern void entryAliasOfS (ASNG_F(ASNPERG *asnperg) ASNHOME **hometab);
 
 extern void entrySkipped (ASNG_F(ASNPERG *asnperg) ASNHOME **hometab);
 
+extern void entryOid (ASNG_F(ASNPERG *asnperg) ASNHOME **hometab);
+
+extern void entryDyn (ASNG_F(ASNPERG *asnperg) ASNHOME **hometab);
+
 extern void normWc (ASNG_F(ASNPERG *asnperg) Wc *home);
 
 extern void entryWc (ASNG_F(ASNPERG *asnperg) ASNHOME **hometab);

@@ -589,3 +589,25 @@ void piGroups (ASNG_L(ASNPERG *asnperg))
     }
   }
 }
+
+static void if1_UnboundedArrayEnums (ASNG_F(ASNPERG *asnperg) sint32 n,
+  BYTE_TYPE **p)
+{
+  while (n){
+    {
+      sint32 *home = &asnperg_ignTemp;
+      sint32 index;
+      pd_sint32_cwn_ua_8 (&index, 0, 1, 1);
+      *home = index + 5;
+    }
+    n--;
+  }
+}
+
+void piUnboundedArrayEnums (ASNG_L(ASNPERG *asnperg))
+{
+  {
+    uint8 *iter = home->elem;
+    (void)pd_ConstructFragmentedValue (NULL, if1_UnboundedArrayEnums);
+  }
+}

@@ -364,3 +364,28 @@ void pdPointers (ASNG_F(ASNPERG *asnperg) Pointers *home)
     }
   }
 }
+
+static void df1_ArrayEnums (ASNG_F(ASNPERG *asnperg) sint32 n, BYTE_TYPE **p)
+{
+  SKIPPED *iter = (SKIPPED *)*p;
+  while (n){
+    {
+      sint32 *home = &asnperg_ignTemp;
+      sint32 index;
+      pd_sint32_cwn_ua_8 (&index, 0, 1, 1);
+      *iter = index + 5;
+    }
+    iter++;
+    n--;
+  }
+  *p = (BYTE_TYPE *)iter;
+}
+
+void pdArrayEnums (ASNG_F(ASNPERG *asnperg) ArrayEnums *home)
+{
+  staArrInit (home);
+  {
+    SKIPPED *iter = home->elem;
+    pd_ConstructFragmentedValue ((BYTE_TYPE *)iter, df1_ArrayEnums);
+  }
+}

@@ -286,3 +286,21 @@ void pePointers (ASNG_F(ASNPERG *asnperg) Pointers *home)
     pe_Skip ();
   }
 }
+
+static void ef1_ArrayEnums (ASNG_F(ASNPERG *asnperg) sint32 n, BYTE_TYPE **p)
+{
+  SKIPPED *iter = (SKIPPED *)*p;
+  while (n){
+    pe_Skip ();
+    iter++;
+    n--;
+  }
+  *p = (BYTE_TYPE *)iter;
+}
+
+void peArrayEnums (ASNG_F(ASNPERG *asnperg) ArrayEnums *home)
+{
+  SKIPPED *iter = home->elem;
+  pe_TraverseFragmentedValue (staArrLen (home), (BYTE_TYPE *)iter,
+    ef1_ArrayEnums);
+}

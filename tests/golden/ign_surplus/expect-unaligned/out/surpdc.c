@@ -576,6 +576,28 @@ void pdRefused (ASNG_F(ASNPERG *asnperg) Refused *home)
   }
 }
 
+void pdNoCount (ASNG_F(ASNPERG *asnperg) NoCount *home)
+{
+  staArr0Init (home);
+  {
+    uint32 n1 = 0;
+    uint32 len_0;
+    pd_lenDet_ua_clt64K_le64K (&len_0, 1, 5, 3);
+    while (n1 < 3){
+      pdStruct (ASNG_F(asnperg) &home->elem [n1]);
+      n1++;
+    }
+    home->nIgnored = 0;
+    {
+      while (n1 < len_0){
+        piStruct (ASNG_L(asnperg));
+        home->nIgnored++;
+        n1++;
+      }
+    }
+  }
+}
+
 void pdWithin (ASNG_F(ASNPERG *asnperg) Within *home)
 {
   staArrInit (&home->a_fld);

@@ -330,6 +330,17 @@ void peRefused (ASNG_F(ASNPERG *asnperg) Refused *home)
   }
 }
 
+void peNoCount (ASNG_F(ASNPERG *asnperg) NoCount *home)
+{
+  pe_lenDet_al_clt64K_le255 (3, 1, 5, 3);
+  {
+    uint32 n1 = 0;
+    for (n1 = 0; n1 < 3; n1++){
+      peStruct (ASNG_F(asnperg) &home->elem [n1]);
+    }
+  }
+}
+
 void peWithin (ASNG_F(ASNPERG *asnperg) Within *home)
 {
   pe_lenDet_al_clt64K_le255 (staArrLen (&home->a_fld), 1, 3, 2);
