@@ -23,31 +23,55 @@ static std::string plainName(const FixRec &fix)
 
 // --- fields -----------------------------------------------------------------
 
-AsnModule *getModuleOfType(const AsnType &type) { return type.homeMod; }
+AsnModule *getModuleOfType(const AsnType &type)
+{
+  return type.homeMod;
+}
 
-AsnType *getFatherOfTypeComp(const AsnType &type) { return type.father; }
+AsnType *getFatherOfTypeComp(const AsnType &type)
+{
+  return type.father;
+}
 
 const TypeOptions &getTypeOptions(const AsnType &type)
 {
   return type.typeOptions;
 }
 
-int getTypeMainType(const AsnType &type) { return type.base.mainType; }
+int getTypeMainType(const AsnType &type)
+{
+  return type.base.mainType;
+}
 
-int32_t getTypeCompStatus(const AsnType &type) { return type.compStatus; }
+int32_t getTypeCompStatus(const AsnType &type)
+{
+  return type.compStatus;
+}
 
 int32_t getBaseTypeCompStatus(const AsnType &type)
 {
   return type.base.compStatus;
 }
 
-int32_t getNrOfTypeComps(const AsnType &type) { return type.base.nrComps; }
+int32_t getNrOfTypeComps(const AsnType &type)
+{
+  return type.base.nrComps;
+}
 
-int32_t getTypeCompNbr(const AsnType &type) { return type.compNbr; }
+int32_t getTypeCompNbr(const AsnType &type)
+{
+  return type.compNbr;
+}
 
-int getVF(const AsnType &type) { return type.base.valueField; }
+int getVF(const AsnType &type)
+{
+  return type.base.valueField;
+}
 
-int getVFSize(const AsnType &type) { return type.base.valueFieldSize; }
+int getVFSize(const AsnType &type)
+{
+  return type.base.valueFieldSize;
+}
 
 // --- texts ------------------------------------------------------------------
 
@@ -113,15 +137,16 @@ std::string &getDefTypeId(std::string &text, const char *prefix,
 std::string &getDefBaseTypeId(std::string &text, const char *prefix,
                               const AsnType &type, const char *suffix)
 {
-  std::string id = isDefinedBaseType(type) ? printed(type.baseFix)
-                                           : "?!?NOT-A-DEFINED-TYPE";
+  std::string id =
+      isDefinedBaseType(type) ? printed(type.baseFix) : "?!?NOT-A-DEFINED-TYPE";
   return between(text, prefix, id, suffix);
 }
 
 // Types that have a name of their own in C.
 static bool isNamedInC(int mainType)
 {
-  return mainType == TYP_ENUM || (mainType >= TYP_SEQ && mainType <= TYP_CHOICE);
+  return mainType == TYP_ENUM ||
+         (mainType >= TYP_SEQ && mainType <= TYP_CHOICE);
 }
 
 std::string &getBaseTypeId(std::string &text, const char *prefix,
@@ -208,8 +233,8 @@ bool isAnyDefinedByType(const AsnType &type)
 
 bool isComponentType(const AsnType &type)
 {
-  return type.compStatus == TCS_MANDATORY ||
-         type.compStatus == TCS_OPTIONAL || type.compStatus == TCS_CHOICE;
+  return type.compStatus == TCS_MANDATORY || type.compStatus == TCS_OPTIONAL ||
+         type.compStatus == TCS_CHOICE;
 }
 
 bool isElemType(const AsnType &type)
@@ -245,8 +270,8 @@ static bool isExtensible(const AsnType &type)
 bool isLeafType(const AsnType &type)
 {
   int mainType = type.base.mainType;
-  bool plain = mainType == TYP_ENUM || !isExtensible(type) ||
-               !isStructured(mainType);
+  bool plain =
+      mainType == TYP_ENUM || !isExtensible(type) || !isStructured(mainType);
   return (type.base.nrComps == 0 && mainType != TYP_EXTADDGRP && plain) ||
          testTypeOption(type, optSkip);
 }
@@ -324,7 +349,10 @@ bool isTheSameType(const AsnType &a, const AsnType &b)
   return !isNamedInC(mainType);
 }
 
-bool isDefaultValue(const AsnType &type) { return type.defaultValue != 0; }
+bool isDefaultValue(const AsnType &type)
+{
+  return type.defaultValue != 0;
+}
 
 static bool isSequenceOrSet(const AsnType &type)
 {
@@ -382,8 +410,7 @@ int32_t getNrOfNamedNumbers(const AsnType &type)
   SavedNode saved(REC_VNODE);
   ChainGuard guard(type.baseModRec, REC_VNODE);
   int32_t count = 0;
-  for (int32_t index = type.base.namedNumbers; index != 0;
-       index = vNode.next) {
+  for (int32_t index = type.base.namedNumbers; index != 0; index = vNode.next) {
     guard.step();
     readRec(type.baseModRec, REC_VNODE, index);
     ++count;
@@ -407,8 +434,7 @@ bool isDefiniteLengthEncoding(const AsnType &type)
   if (option != 2 && option != 3)
     return option == 1;
   int choice = type.typeOptions.definiteLength;
-  return choice == 1 ||
-         (choice == 255 && (isDefinedType(type) || option == 3));
+  return choice == 1 || (choice == 255 && (isDefinedType(type) || option == 3));
 }
 
 bool isExtensibleEnumeratedList(const AsnType &type)
@@ -490,7 +516,10 @@ static const char *entrySymbolOf(const AsnType &type)
   return getEntrySymbolByName(*type.homeMod, type.compFix.id);
 }
 
-bool isEntrySymbol(const AsnType &type) { return entrySymbolOf(type); }
+bool isEntrySymbol(const AsnType &type)
+{
+  return entrySymbolOf(type);
+}
 
 std::string &getEntrySymbol(std::string &text, const char *prefix,
                             const AsnType &type, const char *suffix)
@@ -552,8 +581,7 @@ bool isLastExtensionRootComponent(AsnType *father, const AsnType &comp)
   return father && comp.compNbr + 1 == getTypeExtensionmarkerCompNbr(*father);
 }
 
-bool isMandatoryExtensionAdditionComponent(AsnType *father,
-                                           const AsnType &comp)
+bool isMandatoryExtensionAdditionComponent(AsnType *father, const AsnType &comp)
 {
   return isExtensionAdditionComponent(father, comp) &&
          isMandatoryTypeComp(comp);
@@ -561,8 +589,7 @@ bool isMandatoryExtensionAdditionComponent(AsnType *father,
 
 bool isOptionalExtensionAdditionComponent(AsnType *father, const AsnType &comp)
 {
-  return isExtensionAdditionComponent(father, comp) &&
-         isOptionalTypeComp(comp);
+  return isExtensionAdditionComponent(father, comp) && isOptionalTypeComp(comp);
 }
 
 // --- numbers ----------------------------------------------------------------
@@ -600,10 +627,10 @@ void getSizeEndpoints(const AsnType &type, int32_t &lower, int32_t &upper,
                       int32_t &limit)
 {
   int32_t line = getTypeDefinitionLine(type);
-  lower = int64ToInt32(type.sizeLower, type.homeMod, line,
-                       "Lower size endpoint");
-  upper = int64ToInt32(type.sizeUpper, type.homeMod, line,
-                       "Upper size endpoint");
+  lower =
+      int64ToInt32(type.sizeLower, type.homeMod, line, "Lower size endpoint");
+  upper =
+      int64ToInt32(type.sizeUpper, type.homeMod, line, "Upper size endpoint");
   int32_t sizeLimit = type.base.typeOptions.sizeLimit;
   limit = sizeLimit != 0 ? sizeLimit : upper;
 }
@@ -650,8 +677,10 @@ void setBaseTypeStamp(AsnType &type, int32_t stamp)
   stampRecord(type.baseModRec, type.baseRecNr, stamp);
   type.base.stamp = static_cast<int16_t>(stamp);
   // By the node, which became current: a view of a defined instance shows the
-  // status of the definition. A selection leads to no definition.
-  if (tNode.compStatus != -TCS_HEADER || type.firstMainType == TYP_SELECTION)
+  // status of the definition. A selection in a component leads to no
+  // definition.
+  if (tNode.compStatus != -TCS_HEADER ||
+      (type.firstMainType == TYP_SELECTION && !isDefinedType(type)))
     return;
   readSynonymTypeTNode(type, isCompOrElemType(type));
   stampRecord(currTPtr[REC_TNODE], recJustRead[REC_TNODE].index, stamp);

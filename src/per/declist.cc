@@ -218,9 +218,10 @@ void decConstructElemLoop(int file, AsnType &elem)
 
 bool decBeginElemFunc(const char *prefix, AsnType &list, AsnType &elem)
 {
+  if (!perIsElemSupported(elem))
+    return false;
   cResetVars();
-  return perIsElemSupported(elem) &&
-         perBeginElemFunc(fiDec, prefix, list, elem);
+  return perBeginElemFunc(fiDec, prefix, list, elem);
 }
 
 static void defineIterator(AsnType &list, AsnType &elem)

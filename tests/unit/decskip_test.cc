@@ -191,6 +191,19 @@ TEST_F(DecSkip, MarkerAsALeaf)
   perEndStructure();
 }
 
+// Counters start afresh in a function; an element that gets none leaves them.
+TEST_F(DecSkip, CountersAroundAnElement)
+{
+  loadTypes("T ::= SEQUENCE OF SEQUENCE { a BOOLEAN }\n"
+            "U ::= SEQUENCE OF BOOLEAN\n");
+  TestType passedOver(module, type("T")), written(module, type("U"));
+  localVarCount[VAR_ASN_HOME] = -1;
+  forTypeElem(*passedOver, decSkipElemCallBack);
+  EXPECT_EQ(localVarCount[VAR_ASN_HOME], -1);
+  forTypeElem(*written, decSkipElemCallBack);
+  EXPECT_EQ(localVarCount[VAR_ASN_HOME], 0);
+}
+
 // A CHOICE has no bitmap.
 TEST_F(DecSkip, MarkerOfAChoiceAsALeaf)
 {

@@ -541,5 +541,5 @@ TEST_F(TypeQueryWalk, StampsOfSelections)
   setBaseTypeStamp(*type, 30);
   EXPECT_EQ(stampOf(module.rec, inner), 30);
   EXPECT_EQ(stampOf(module.rec, alternative), stampGenerated);
-  EXPECT_EQ(stampOf(module.rec, selection), stampGenerated);
+  EXPECT_EQ(stampOf(module.rec, selection), 30);
 }
